@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+#include "nodo/tabella.h"
+
+namespace qf17 {
+
+// Text and dimension styles of the GRB template cad2dmodello.grb, sizes in drawing units.
+struct StiliGRB {
+  int NumStili = 0;
+  Tabella<double, 0, 100> GRBAltezza;
+  Tabella<double, 0, 100> GRBLarghezza;
+  Tabella<std::int16_t, 0, 100> GRBCarattere;
+  bool Letti = false;  // false: the sheet uses the default sizes
+};
+
+}  // namespace qf17

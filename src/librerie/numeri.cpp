@@ -1,0 +1,127 @@
+#include "librerie/numeri.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <system_error>
+
+#include "piattaforma/errori.h"
+
+namespace qf17 {
+namespace {
+
+bool Cifra(char c) { return c >= '0' && c <= '9'; }
+
+// Length of the longest valid number at the start of `t` (which has no leading blanks).
+std::size_t LunghezzaNumero(std::string_view t) {
+  std::size_t i = 0;
+  if (i < t.size() && (t[i] == '+' || t[i] == '-')) ++i;
+  std::size_t cifre = 0;
+  while (i < t.size() && Cifra(t[i])) ++i, ++cifre;
+  if (i < t.size() && t[i] == '.') {
+    ++i;
+    while (i < t.size() && Cifra(t[i])) ++i, ++cifre;
+  }
+  if (cifre == 0) return 0;
+  std::size_t fine = i;
+  if (i < t.size() && (t[i] == 'e' || t[i] == 'E')) {
+    std::size_t j = i + 1;
+    if (j < t.size() && (t[j] == '+' || t[j] == '-')) ++j;
+    std::size_t k = j;
+    while (k < t.size() && Cifra(t[k])) ++k;
+    if (k > j) fine = k;
+  }
+  return fine;
+}
+
+double Converti(std::string_view numero) {
+  if (!numero.empty() && numero.front() == '+') numero.remove_prefix(1);
+  // A lone point after the digits ("12.") is valid here and not for from_chars.
+  std::string testo(numero);
+  if (auto p = testo.find('.'); p != std::string::npos &&
+                                (p + 1 == testo.size() || !Cifra(testo[p + 1]))) {
+    testo.insert(p + 1, "0");
+  }
+  if (testo.front() == '.' || (testo.size() > 1 && testo[0] == '-' && testo[1] == '.')) {
+    testo.insert(testo.front() == '-' ? 1 : 0, "0");
+  }
+  double valore = 0;
+  auto [fine, errore] = std::from_chars(testo.data(), testo.data() + testo.size(), valore);
+  if (errore == std::errc::result_out_of_range) {
+    // Underflow reads as zero; overflow is an error the user must see. Which of the two it was
+    // shows in the sign of the exponent, since no mantissa of ours reaches 1E+308 by itself.
+    auto e = testo.find_first_of("eE");
+    bool piccolo = e != std::string::npos
+                       ? e + 1 < testo.size() && testo[e + 1] == '-'
+                       : testo.find_first_not_of("-0") == testo.find('.');
+    if (piccolo) return 0.0;
+    throw ErroreFatale("Overflow: numero troppo grande (" + testo + ")");
+  }
+  (void)fine;
+  return valore;
+}
+
+std::string_view SenzaBlanchi(std::string_view t) {
+  auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+  while (!t.empty() && blank(t.front())) t.remove_prefix(1);
+  while (!t.empty() && blank(t.back())) t.remove_suffix(1);
+  return t;
+}
+
+}  // namespace
+
+double NumeroIniziale(std::string_view testo) {
+  while (!testo.empty() && (testo.front() == ' ' || testo.front() == '\t')) testo.remove_prefix(1);
+  std::size_t n = LunghezzaNumero(testo);
+  return n == 0 ? 0.0 : Converti(testo.substr(0, n));
+}
+
+double ArrotondaPari(double valore, int decimali) {
+  if (decimali == 0) return std::nearbyint(valore);
+  double scala = std::pow(10.0, decimali);
+  return std::nearbyint(valore * scala) / scala;
+}
+
+std::int16_t InI16(double valore) {
+  double r = std::nearbyint(valore);
+  if (!(r >= -32768.0 && r <= 32767.0)) {
+    throw ErroreFatale("Overflow: " + TestoNumero(valore) + " non sta in un intero a 16 bit");
+  }
+  return static_cast<std::int16_t>(r);
+}
+
+std::int16_t InteroStretto(std::string_view testo) {
+  std::string_view t = SenzaBlanchi(testo);
+  std::size_t n = LunghezzaNumero(t);
+  if (n == 0 || n != t.size()) {
+    throw ErroreFatale("Tipo non corrispondente: \"" + std::string(testo) +
+                       "\" non è un numero intero");
+  }
+  return InI16(Converti(t));
+}
+
+std::string TestoNumero(double valore) {
+  if (valore == 0 || std::isnan(valore)) return "0";
+  if (std::isinf(valore)) return valore > 0 ? "1.#INF" : "-1.#INF";
+  char buffer[40];
+  auto [fine, errore] =
+      std::to_chars(buffer, buffer + sizeof buffer, valore, std::chars_format::general, 15);
+  (void)errore;
+  std::string testo(buffer, fine);
+  std::transform(testo.begin(), testo.end(), testo.begin(),
+                 [](char c) { return c == 'e' ? 'E' : c; });
+  return testo;
+}
+
+std::string TestoNumero(long long valore) { return std::to_string(valore); }
+
+std::string TestoLista(double valore) {
+  std::string t = TestoNumero(valore);
+  return (t.front() == '-' ? "" : " ") + t + " ";
+}
+
+std::string TestoLista(long long valore) {
+  return (valore < 0 ? "" : " ") + std::to_string(valore) + " ";
+}
+
+}  // namespace qf17

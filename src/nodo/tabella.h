@@ -1,0 +1,62 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "piattaforma/errori.h"
+
+namespace qf17 {
+
+[[noreturn]] inline void IndiceFuoriTabella(int indice, int primo, int ultimo) {
+  throw ErroreFatale("Indice " + std::to_string(indice) + " fuori dalla tabella (" +
+                     std::to_string(primo) + ".." + std::to_string(ultimo) + ")");
+}
+
+// A fixed table with the bounds of the family's records: allocated once, indexed from `Primo`
+// (usually 0, the row that stays empty) to `Ultimo`. An index outside is an ErroreFatale,
+// never undefined behaviour.
+template <class T, int Primo, int Ultimo>
+class Tabella {
+  static_assert(Ultimo >= Primo);
+
+ public:
+  static constexpr int primo = Primo;
+  static constexpr int ultimo = Ultimo;
+
+  Tabella() : righe_(Ultimo - Primo + 1) {}
+
+  T& operator[](int i) { return righe_[Posizione(i)]; }
+  const T& operator[](int i) const { return righe_[Posizione(i)]; }
+  static bool Contiene(int i) { return i >= Primo && i <= Ultimo; }
+  void Riempi(const T& valore) { righe_.assign(righe_.size(), valore); }
+
+ private:
+  static std::size_t Posizione(int i) {
+    if (!Contiene(i)) IndiceFuoriTabella(i, Primo, Ultimo);
+    return static_cast<std::size_t>(i - Primo);
+  }
+  std::vector<T> righe_;
+};
+
+// Two indices, each with its own bounds, as the family's two-dimensional records.
+template <class T, int Primo1, int Ultimo1, int Primo2, int Ultimo2>
+class Tabella2 {
+ public:
+  Tabella2() : righe_((Ultimo1 - Primo1 + 1) * (Ultimo2 - Primo2 + 1)) {}
+
+  T& operator()(int i, int j) { return righe_[Posizione(i, j)]; }
+  const T& operator()(int i, int j) const { return righe_[Posizione(i, j)]; }
+  static bool Contiene(int i, int j) {
+    return i >= Primo1 && i <= Ultimo1 && j >= Primo2 && j <= Ultimo2;
+  }
+
+ private:
+  static std::size_t Posizione(int i, int j) {
+    if (i < Primo1 || i > Ultimo1) IndiceFuoriTabella(i, Primo1, Ultimo1);
+    if (j < Primo2 || j > Ultimo2) IndiceFuoriTabella(j, Primo2, Ultimo2);
+    return static_cast<std::size_t>((i - Primo1) * (Ultimo2 - Primo2 + 1) + (j - Primo2));
+  }
+  std::vector<T> righe_;
+};
+
+}  // namespace qf17

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace qf17 {
+
+enum class Icona { Nessuna, Informazione, Attenzione, Critica, Domanda };
+enum class Pulsanti { Ok, OkAnnulla };
+enum class Risposta { Ok, Annulla };
+
+// What an open or save dialog is asked for. `filtro` uses the family's "Text|*.ext|..." form.
+struct RichiestaFile {
+  std::string titolo;
+  std::string filtro;
+  std::string estensione;  // default extension, without the point
+  std::string cartella;    // initial folder
+  std::string nome;        // initial file name
+  int indiceFiltro = 1;    // 1-based, as the family counts filters
+};
+
+struct FileScelto {
+  std::string percorso;
+  int indiceFiltro = 1;
+};
+
+// The only way the core reaches the user or the operating system. The core never prints, opens a
+// window or starts a process by itself.
+class Piattaforma {
+ public:
+  virtual ~Piattaforma() = default;
+
+  // A modal box: exact text, title, icon and buttons. Returns the button pressed.
+  virtual Risposta Messaggio(const std::string& testo, const std::string& titolo, Icona icona,
+                             Pulsanti pulsanti) = 0;
+  // File choice; no value when the user cancels.
+  virtual std::optional<FileScelto> ScegliFileDaAprire(const RichiestaFile& richiesta) = 0;
+  virtual std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile& richiesta) = 0;
+  // Starts another program; with `attendi` it returns when that program has ended.
+  // False when it could not be started.
+  virtual bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) = 0;
+  // The busy pointer, on while a long command runs.
+  virtual void Occupato(bool acceso) = 0;
+
+  // Shorthand for the common OK box.
+  void Avviso(const std::string& testo, const std::string& titolo, Icona icona = Icona::Nessuna) {
+    Messaggio(testo, titolo, icona, Pulsanti::Ok);
+  }
+};
+
+}  // namespace qf17

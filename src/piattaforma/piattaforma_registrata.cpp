@@ -1,0 +1,43 @@
+#include "piattaforma/piattaforma_registrata.h"
+
+namespace qf17 {
+
+Risposta PiattaformaRegistrata::Messaggio(const std::string& testo, const std::string& titolo,
+                                          Icona icona, Pulsanti pulsanti) {
+  messaggi.push_back({testo, titolo, icona, pulsanti});
+  if (risposte.empty()) return Risposta::Ok;
+  Risposta r = risposte.front();
+  risposte.pop_front();
+  return r;
+}
+
+std::optional<FileScelto> PiattaformaRegistrata::ScegliFileDaAprire(const RichiestaFile& r) {
+  richiesteFile.push_back(r);
+  if (fileScelti.empty()) return std::nullopt;
+  auto f = fileScelti.front();
+  fileScelti.pop_front();
+  return f;
+}
+
+std::optional<FileScelto> PiattaformaRegistrata::ScegliFileDaSalvare(const RichiestaFile& r) {
+  return ScegliFileDaAprire(r);
+}
+
+bool PiattaformaRegistrata::Avvia(const std::string& programma, const std::string& argomenti,
+                                  bool attendi) {
+  avvii.push_back({programma, argomenti, attendi});
+  bool esito = true;
+  if (!esitiAvvio.empty()) {
+    esito = esitiAvvio.front();
+    esitiAvvio.pop_front();
+  }
+  if (esito && suAvvio) suAvvio(avvii.back());
+  return esito;
+}
+
+void PiattaformaRegistrata::Occupato(bool acceso) {
+  occupato = acceso;
+  ++cambiOccupato;
+}
+
+}  // namespace qf17

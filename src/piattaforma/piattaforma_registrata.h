@@ -1,0 +1,50 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "piattaforma/piattaforma.h"
+
+namespace qf17 {
+
+// A platform that records every call and answers from scripts: the tests' window on what the
+// user would have seen.
+class PiattaformaRegistrata : public Piattaforma {
+ public:
+  struct MessaggioVisto {
+    std::string testo;
+    std::string titolo;
+    Icona icona;
+    Pulsanti pulsanti;
+  };
+  struct AvvioVisto {
+    std::string programma;
+    std::string argomenti;
+    bool attendi;
+  };
+
+  Risposta Messaggio(const std::string& testo, const std::string& titolo, Icona icona,
+                     Pulsanti pulsanti) override;
+  std::optional<FileScelto> ScegliFileDaAprire(const RichiestaFile& richiesta) override;
+  std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
+  bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) override;
+  void Occupato(bool acceso) override;
+
+  // Scripted answers, used in order; when a script runs dry, boxes answer OK, dialogs cancel and
+  // programs start.
+  std::deque<Risposta> risposte;
+  std::deque<std::optional<FileScelto>> fileScelti;
+  std::deque<bool> esitiAvvio;
+  // Called when a program is "started", so a test can play the started tool.
+  std::function<void(const AvvioVisto&)> suAvvio;
+
+  std::vector<MessaggioVisto> messaggi;
+  std::vector<RichiestaFile> richiesteFile;
+  std::vector<AvvioVisto> avvii;
+  int cambiOccupato = 0;
+  bool occupato = false;
+};
+
+}  // namespace qf17
