@@ -1,0 +1,40 @@
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+
+#include "nodo/nodo.h"
+#include "piattaforma/piattaforma.h"
+
+namespace qf17 {
+
+struct Sessione;
+
+inline constexpr std::string_view kFiltroFileNodo =
+    "File nodo qf7 (*.qf7)|*.qf7|Tutti i file (*.*)|*.*";
+
+// The keyed reader: fills `nodo` from the file (fields whose keys are missing keep their
+// value). False, with the family's message, when the file cannot be opened. A key with an index
+// beyond its table, a number beyond 16 bits or a non-numeric Esposizione or TipoVer is an
+// ErroreFatale.
+bool LeggiNodo(Nodo& nodo, const std::filesystem::path& file, Piattaforma& piattaforma);
+// The positional reader of both older generations; false on any failure, without a message.
+bool LeggiNodoVecchio(Nodo& nodo, Sessione& sessione, const std::filesystem::path& file);
+// Writes the keyed file (temporary file renamed over the target). False, with the family's
+// message, when it cannot be written.
+bool ScriviNodo(const Nodo& nodo, const std::filesystem::path& file, Piattaforma& piattaforma,
+                std::chrono::system_clock::time_point ora = std::chrono::system_clock::now());
+
+// The current node's base name and ".qf7".
+std::string NomeFileCorrente(const Nodo& nodo);
+
+// The panel's commands. Each returns true when the node was opened or saved. A load works on a
+// copy: on any failure the session's node is the one it had before, and the user was told.
+bool ApriNodo(Sessione& sessione);
+bool ApriNodoDaFile(Sessione& sessione, const std::filesystem::path& file);
+bool SalvaNodo(Sessione& sessione);
+bool SalvaNodoCome(Sessione& sessione);
+bool SalvaNodoSuFile(Sessione& sessione, const std::filesystem::path& file);
+
+}  // namespace qf17
