@@ -1,0 +1,15 @@
+#!/bin/sh
+# The main job on the shipped sample installation, as an engineer would run it.
+# Usage: tools/demo.sh BUILD_DIR
+set -e
+build=${1:-build}
+radice=$(cd "$build/installazione" && pwd)
+qf17=$radice/progra/qf17
+lavoro=$radice/lavori/esempi
+
+echo "== qf17 nodo ANGUPN.qf7"
+"$qf17" nodo ANGUPN.qf7
+echo
+echo "== qf17 converti VECCHIO2.qf7 (old positional file) -> VECCHIO2-convertito.qf7"
+"$qf17" converti "$lavoro/VECCHIO2.qf7" -o "$lavoro/VECCHIO2-convertito.qf7"
+head -12 "$lavoro/VECCHIO2-convertito.qf7" | tr -d '\r'
