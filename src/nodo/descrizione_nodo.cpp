@@ -39,7 +39,7 @@ void Sezione(std::ostringstream& o, const Profilo& p) {
   o << "\n";
 }
 
-void Aste(std::ostringstream& o, const Nodo& n) {
+void ScriviAste(std::ostringstream& o, const Nodo& n) {
   for (int i = 1; i <= kMaxAste; ++i) {
     o << "Asta " << LetteraAsta(i) << ": " << n.Aste[i].Nome
       << (n.Ast_flag[i] == 1 ? "" : "  (assente)") << "  " << ParolaModo(n.Ast_modo[i])
@@ -51,7 +51,7 @@ void Aste(std::ostringstream& o, const Nodo& n) {
   }
 }
 
-void Bulloni(std::ostringstream& o, const Nodo& n) {
+void ScriviBulloni(std::ostringstream& o, const Nodo& n) {
   const char* gruppi[] = {"corrente", "asta A", "asta B", "asta C"};
   for (int g = 0; g <= 3; ++g) {
     o << "Bulloni " << gruppi[g] << ": " << n.nBull[g] << "\n";
@@ -62,7 +62,7 @@ void Bulloni(std::ostringstream& o, const Nodo& n) {
   }
 }
 
-void Materiali(std::ostringstream& o, const Nodo& n) {
+void ScriviMateriali(std::ostringstream& o, const Nodo& n) {
   const Acciaio& a = n.acciaio;
   o << "Acciaio: " << a.Nome << (a.Norma.empty() ? "" : "  (" + a.Norma + ")") << "\n"
     << "    SAmm " << N(a.SAmm) << "  SAmm40 " << N(a.SAmm40) << "  fy " << N(a.fy) << "  fy40 "
@@ -76,7 +76,7 @@ void Materiali(std::ostringstream& o, const Nodo& n) {
   o << "Esposizione: " << (e >= 0 && e <= 2 ? kVociEsposizione[e] : std::to_string(e)) << "\n";
 }
 
-void Sollecitazioni(std::ostringstream& o, const Nodo& n) {
+void ScriviSollecitazioni(std::ostringstream& o, const Nodo& n) {
   o << "Sollecitazioni [daN]: " << n.nSollAg << "\n";
   for (int j = 1; j <= n.nSollAg; ++j) {
     o << "    " << j << "  A " << N(n.SforzoNormale(1, j)) << "  B " << N(n.SforzoNormale(2, j))
@@ -102,14 +102,14 @@ std::string DescrizioneNodo(const Sessione& s) {
     << "Corrente D: " << n.Corrente.Nome << "  teta " << N(n.Cor_teta * kGradiPerRadiante)
     << "°\n";
   Sezione(o, n.Corrente);
-  Aste(o, n);
+  ScriviAste(o, n);
   o << "Fazzoletto: a " << N(n.Fz_a) << "  b " << N(n.Fz_b) << "  c " << N(n.Fz_c) << "  d "
     << N(n.Fz_d) << "  e " << N(n.Fz_e) << "  f " << N(n.Fz_f) << "  g " << N(n.Fz_g) << "  h "
     << N(n.Fz_h) << "  spessore " << N(n.Fz_s) << " mm\n"
     << "Lato saldatura: " << N(n.Lato_Sald) << " mm\n";
-  Bulloni(o, n);
-  Materiali(o, n);
-  Sollecitazioni(o, n);
+  ScriviBulloni(o, n);
+  ScriviMateriali(o, n);
+  ScriviSollecitazioni(o, n);
   return o.str();
 }
 
