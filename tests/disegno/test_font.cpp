@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <numbers>
+#include <string>
+#include <vector>
+
+#include "disegno/leggi_font.h"
+#include "disegno/tratti_testo.h"
+
+namespace qf17 {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FontTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    cartella_ = fs::temp_directory_path() /
+                ("qf17-font-" +
+                 std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    fs::create_directories(cartella_);
+    font_ = std::make_unique<FontTratti>();
+  }
+  void TearDown() override { fs::remove_all(cartella_); }
+
+  fs::path Scrivi(const std::string& byte) {
+    fs::path p = cartella_ / "font.001";
+    std::ofstream(p, std::ios::binary) << byte;
+    return p;
+  }
+
+  fs::path cartella_;
+  std::unique_ptr<FontTratti> font_;
+};
+
+struct PuntoAtteso {
+  int x, y;
+};
+
+TEST_F(FontTest, ContaPuntiELeggeLeCoordinate) {
+  const std::string testo =
+      "15\r\n"
+      "A10203040\r\n"                    // 9 characters: one stroke
+      "B102030405060\r\n"                // 13: 12/8 = 1.5 rounds to 2 strokes, last point blank
+      "C10203040    \r\n"                // trailing blanks do not count
+      "D1020\r\n"                        // 5: 4/8 = 0.5 rounds to even, no stroke
+      "E11223344556677889900\r\n"        // 21: 20/8 = 2.5 rounds to 2 strokes
+      "F1122334455667788990011223344\n"  // 29: 3.5 rounds to 4 strokes; LF alone ends a line too
+      "\r\n"                             // an empty line is no glyph
+      "H1a2b x y\r\n"                    // non-digits by the leading-number rule
+      " \r\n"                            // the blank: present, no stroke
+      "\xE8"
+      "05 7-3\r\n";  // a byte of the code page: è; " 7" and "-3" are numbers, the rest blank
+  ASSERT_TRUE(LeggiFont(*font_, Scrivi(testo)));
+  EXPECT_EQ(font_->FontStrizione, 15);
+
+  struct Caso {
+    unsigned char car;
+    int punti;
+    std::vector<PuntoAtteso> primi;
+  };
+  const Caso casi[] = {
+      {'A', 2, {{10, 20}, {30, 40}}},
+      {'B', 4, {{10, 20}, {30, 40}, {50, 60}, {0, 0}}},
+      {'C', 2, {{10, 20}, {30, 40}}},
+      {'D', 0, {}},
+      {'E', 4, {{11, 22}, {33, 44}, {55, 66}, {77, 88}}},
+      {'F', 8, {{11, 22}, {33, 44}, {55, 66}, {77, 88}, {99, 0}, {11, 22}, {33, 44}, {0, 0}}},
+      {'H', 2, {{1, 2}, {0, 0}}},
+      {' ', 0, {}},
+      {0xE8, 2, {{5, 7}, {-3, 0}}},
+  };
+  for (const auto& c : casi) {
+    SCOPED_TRACE(static_cast<int>(c.car));
+    EXPECT_EQ(font_->FontNumPunti[c.car], c.punti);
+    for (std::size_t i = 0; i < c.primi.size(); ++i) {
+      EXPECT_EQ(font_->FontX[c.car][i], c.primi[i].x) << "punto " << i;
+      EXPECT_EQ(font_->FontY[c.car][i], c.primi[i].y) << "punto " << i;
+    }
+  }
+  EXPECT_EQ(font_->FontCar['A'], "A");
+  EXPECT_EQ(font_->FontCar[0xE8], "è");
+  for (int assente : {0, int{'G'}, int{'Z'}, 0xE9, 255}) {
+    EXPECT_EQ(font_->FontNumPunti[static_cast<std::size_t>(assente)], -1) << assente;
+    EXPECT_EQ(font_->FontCar[static_cast<std::size_t>(assente)], "") << assente;
+  }
+}
+
+TEST_F(FontTest, UnaRigaOltreCentoPuntiSiFermaACento) {
+  std::string riga = "M";
+  for (int i = 0; i < 60; ++i) riga += "12345678";
+  ASSERT_TRUE(LeggiFont(*font_, Scrivi("0\r\n" + riga + "\r\n")));
+  EXPECT_EQ(font_->FontNumPunti['M'], 100);
+  EXPECT_EQ(font_->FontX['M'][99], 56);
+  EXPECT_EQ(font_->FontY['M'][99], 78);
+  EXPECT_EQ(font_->FontX['M'][100], 0);  // the spare row is never filled
+}
+
+TEST_F(FontTest, FileMancanteODannoso) {
+  font_->FontStrizione = 7;
+  font_->FontNumPunti['A'] = 4;
+  EXPECT_FALSE(LeggiFont(*font_, cartella_ / "assente.001"));
+  EXPECT_FALSE(LeggiFont(*font_, cartella_));  // a folder is no font
+  for (const char* dannoso :
+       {"", "\r\n", "abc\r\nA10203040\r\n", "150\r\nA10203040\r\n", "-5\r\n", "1e999\r\n"}) {
+    EXPECT_FALSE(LeggiFont(*font_, Scrivi(dannoso))) << dannoso;
+  }
+  // A failed reading leaves the font as it was.
+  EXPECT_EQ(font_->FontStrizione, 7);
+  EXPECT_EQ(font_->FontNumPunti['A'], 4);
+  // A head with nothing after it is an empty font, not a damaged one.
+  ASSERT_TRUE(LeggiFont(*font_, Scrivi("12")));
+  EXPECT_EQ(font_->FontStrizione, 12);
+  EXPECT_EQ(font_->FontNumPunti['A'], -1);
+}
+
+void ControllaTratto(const Tratto& t, double x1, double y1, double x2, double y2) {
+  EXPECT_NEAR(t.x1, x1, 1e-9);
+  EXPECT_NEAR(t.y1, y1, 1e-9);
+  EXPECT_NEAR(t.x2, x2, 1e-9);
+  EXPECT_NEAR(t.y2, y2, 1e-9);
+}
+
+TEST_F(FontTest, TrattiTestoConStrizioneEAngolo) {
+  // One stroke from (10, 30) to (60, 99). With narrowing 20, width 9.9 and height 6.9:
+  // sx = 9.9 / 99 x 0.8 = 0.08 and sy = 6.9 / 69 = 0.1, so the stroke spans 4 across and 6.9 up.
+  ASSERT_TRUE(LeggiFont(*font_, Scrivi("20\r\nL10306099\r\n\xE8"
+                                       "10306099\r\n")));
+
+  auto orizzontale = TrattiTesto(*font_, "LL", 100, 50, 0, 9.9, 6.9);
+  ASSERT_EQ(orizzontale.size(), 2u);
+  ControllaTratto(orizzontale[0], 100.8, 50, 104.8, 56.9);
+  ControllaTratto(orizzontale[1], 110.7, 50, 114.7, 56.9);  // the next cell starts 9.9 on
+
+  // At 90 degrees the glyph's X runs up and its height runs towards -X.
+  auto verticale = TrattiTesto(*font_, "LL", 100, 50, std::numbers::pi / 2, 9.9, 6.9);
+  ASSERT_EQ(verticale.size(), 2u);
+  ControllaTratto(verticale[0], 100, 50.8, 93.1, 54.8);
+  ControllaTratto(verticale[1], 100, 60.7, 93.1, 64.7);
+
+  // An absent character draws nothing but takes its cell; "è" is one character, not two bytes.
+  auto conAssente = TrattiTesto(*font_, "?L", 100, 50, 0, 9.9, 6.9);
+  ASSERT_EQ(conAssente.size(), 1u);
+  ControllaTratto(conAssente[0], 110.7, 50, 114.7, 56.9);
+  auto accentato = TrattiTesto(*font_, "èL", 100, 50, 0, 9.9, 6.9);
+  ASSERT_EQ(accentato.size(), 2u);
+  ControllaTratto(accentato[1], 110.7, 50, 114.7, 56.9);
+  EXPECT_TRUE(TrattiTesto(*font_, "", 0, 0, 0, 1, 1).empty());
+}
+
+TEST_F(FontTest, IlFontDellInstallazioneHaTuttiICaratteri) {
+  const fs::path file = fs::path(QF17_SORGENTI) / "installazione" / "progra" / "font.001";
+  ASSERT_TRUE(LeggiFont(*font_, file));
+  EXPECT_EQ(font_->FontStrizione, 10);
+  EXPECT_EQ(font_->FontNumPunti[' '], 0);
+  std::vector<int> codici;
+  for (int c = 33; c <= 126; ++c) codici.push_back(c);
+  for (int c : {0xE0, 0xE8, 0xE9, 0xEC, 0xF2, 0xF9, 0xB0}) codici.push_back(c);
+  for (int c : codici) {
+    auto k = static_cast<std::size_t>(c);
+    SCOPED_TRACE(c);
+    ASSERT_GT(font_->FontNumPunti[k], 0);
+    for (int i = 0; i < font_->FontNumPunti[k]; ++i) {
+      auto j = static_cast<std::size_t>(i);
+      EXPECT_TRUE(font_->FontX[k][j] >= 0 && font_->FontX[k][j] <= 99);
+      EXPECT_TRUE(font_->FontY[k][j] >= 0 && font_->FontY[k][j] <= 99);
+    }
+  }
+  EXPECT_EQ(font_->FontNumPunti[0x7F], -1);
+  // A capital stands on the baseline and reaches the top of the cell: height h is its height.
+  const auto& y = font_->FontY['E'];
+  const int n = font_->FontNumPunti['E'];
+  EXPECT_EQ(*std::min_element(y.begin(), y.begin() + n), 30);
+  EXPECT_EQ(*std::max_element(y.begin(), y.begin() + n), 99);
+  // The accent of "è" lies above the x-height of "e".
+  const auto& ye = font_->FontY['e'];
+  const auto& yAccentata = font_->FontY[0xE8];
+  EXPECT_GT(*std::max_element(yAccentata.begin(), yAccentata.begin() + font_->FontNumPunti[0xE8]),
+            *std::max_element(ye.begin(), ye.begin() + font_->FontNumPunti['e']) + 5);
+}
+
+}  // namespace
+}  // namespace qf17
