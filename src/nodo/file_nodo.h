@@ -13,14 +13,21 @@ struct Sessione;
 
 inline constexpr std::string_view kFiltroFileNodo =
     "File nodo qf7 (*.qf7)|*.qf7|Tutti i file (*.*)|*.*";
+inline constexpr std::string_view kEstensioneNodo = "qf7";
+inline constexpr std::string_view kDescrizioneFileNodo = "file_QF17";
+inline constexpr int kReleaseFileNodo = 1;
+inline constexpr std::string_view kTitoloLetturaFallita = "QF17 - LETTURA NON RIUSCITA";
+inline constexpr std::string_view kTitoloSalvataggioFallito = "QF17 - SALVATAGGIO NON RIUSCITO";
 
 // The keyed reader: fills `nodo` from the file (fields whose keys are missing keep their
 // value). False, with the family's message, when the file cannot be opened. A key with an index
-// beyond its table, a number beyond 16 bits or a non-numeric Esposizione or TipoVer is an
-// ErroreFatale.
+// beyond its table, a number beyond 16 bits, a count beyond its table or a non-numeric
+// Esposizione or TipoVer is an ErroreFatale naming the file, the line and the key; `nodo` may
+// then be half read, so callers read into a copy.
 bool LeggiNodo(Nodo& nodo, const std::filesystem::path& file, Piattaforma& piattaforma);
-// The positional reader of both older generations; false on any failure, without a message.
-bool LeggiNodoVecchio(Nodo& nodo, Sessione& sessione, const std::filesystem::path& file);
+// The positional reader of both older generations; false on any failure, without a message
+// (the fields read up to the failure stay in `nodo`). It never throws ErroreFatale.
+bool LeggiNodoVecchio(Nodo& nodo, const std::filesystem::path& file);
 // Writes the keyed file (temporary file renamed over the target). False, with the family's
 // message, when it cannot be written.
 bool ScriviNodo(const Nodo& nodo, const std::filesystem::path& file, Piattaforma& piattaforma,
@@ -29,8 +36,10 @@ bool ScriviNodo(const Nodo& nodo, const std::filesystem::path& file, Piattaforma
 // The current node's base name and ".qf7".
 std::string NomeFileCorrente(const Nodo& nodo);
 
-// The panel's commands. Each returns true when the node was opened or saved. A load works on a
-// copy: on any failure the session's node is the one it had before, and the user was told.
+// The panel's commands. Each returns true when the node was opened or saved; the caller then
+// rewrites the window's title and refreshes the panel. A load works on a copy: on any failure
+// the session's node is the one it had before, and the user was told; an ErroreFatale of the
+// keyed reader goes up to the command boundary with its text, the node unchanged.
 bool ApriNodo(Sessione& sessione);
 bool ApriNodoDaFile(Sessione& sessione, const std::filesystem::path& file);
 bool SalvaNodo(Sessione& sessione);

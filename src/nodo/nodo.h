@@ -14,6 +14,16 @@ inline constexpr int kMaxBulloni = 2000;
 inline constexpr int kMaxSollecitazioni = 200;
 inline constexpr int kMaxNodiImportati = 200;
 
+// The pi of the family's conversions: node files and boxes carry angles in degrees converted
+// with exactly this value, so a saved angle reads back to the same radians.
+inline constexpr double kPiGrecoNodo = 3.14159265358979;
+inline double GradiInRadianti(double gradi) {
+  return gradi * kPiGrecoNodo / 180;
+}
+inline double RadiantiInGradi(double radianti) {
+  return radianti * 180 / kPiGrecoNodo;
+}
+
 enum class AstModo : std::int16_t { Singola = 0, Doppia = 1, Opposta = 2 };
 enum class TipoVerifica : std::int16_t { TA = 0, SLU = 1 };
 

@@ -1,0 +1,122 @@
+#include "sessione_prova.h"
+
+#include <unistd.h>
+
+#include <atomic>
+#include <fstream>
+#include <sstream>
+
+namespace qf17::prova {
+namespace {
+
+Profilo Sezione(const std::string& nome, std::int16_t tipo, double h, double b, double a, double e,
+                double area) {
+  Profilo p;
+  p.Nome = nome;
+  p.Tipo = tipo;
+  p.h = h;
+  p.b = b;
+  p.a = a;
+  p.e = e;
+  p.Area = area;
+  return p;
+}
+
+Acciaio Steel(const std::string& nome, double sAmm, double sAmm40, double fy, double fy40,
+              double ft, double ft40) {
+  Acciaio a;
+  a.Nome = nome;
+  a.Norma = "UNI EN 10025-2";
+  a.SAmm = sAmm;
+  a.SAmm40 = sAmm40;
+  a.fy = fy;
+  a.fy40 = fy40;
+  a.ft = ft;
+  a.ft40 = ft40;
+  a.gM = 1.05;
+  a.gMT = 1.25;
+  return a;
+}
+
+Vite Classe(const std::string& nome, double sAmm, double tauAmm, double fy, double ft) {
+  Vite v;
+  v.Nome = nome;
+  v.SAmmViti = sAmm;
+  v.TauAmmViti = tauAmm;
+  v.fyViti = fy;
+  v.ftViti = ft;
+  v.fdVit = ft * 0.7;
+  v.gMViti = 1.25;
+  return v;
+}
+
+}  // namespace
+
+void RiempiProfiliProva(LibreriaProfili& l) {
+  int r = 0;
+  l.Profili[++r] = Sezione("IPE140", 2, 140, 73, 4.7, 6.9, 1640);
+  l.Profili[++r] = Sezione("HEA200", 2, 190, 200, 6.5, 10, 5380);
+  l.NumProfili1 = r;
+  l.Profili[++r] = Sezione("UPN120", 0, 120, 55, 7, 9, 1700);
+  l.Profili[++r] = Sezione("UPN160", 0, 160, 65, 7.5, 10.5, 2400);
+  l.Profili[++r] = Sezione("LU50x5", 1, 50, 50, 5, 5, 480);
+  l.Profili[++r] = Sezione("LU60x6", 1, 60, 60, 6, 6, 691);
+  l.Profili[++r] = Sezione("LU70x7", 1, 70, 70, 7, 7, 940);
+  l.Profili[++r] = Sezione("LD80x60x7", 1, 80, 60, 7, 7, 938);
+  l.NumProfiliTot = r;
+  l.NumProfili2 = r - l.NumProfili1;
+}
+
+void RiempiMaterialiProva(Materiali& m) {
+  int r = 0;
+  m.Acciai[++r] = Steel("S 235 (FE 360)", 1600, 1400, 2350, 2150, 3600, 3600);
+  m.Acciai[++r] = Steel("S 275 (FE 430)", 1900, 1700, 2750, 2550, 4300, 4100);
+  m.Acciai[++r] = Steel("S 355 (FE 510)", 2400, 2100, 3550, 3350, 5100, 4700);
+  // Only for the limit states: no allowable stress.
+  m.Acciai[++r] = Steel("S 460", 0, 0, 4600, 4400, 5400, 5400);
+  m.NumAcciai = r;
+  r = 0;
+  m.Viti[++r] = Classe("4.6", 1700, 1200, 2400, 4000);
+  m.Viti[++r] = Classe("5.6", 2400, 1700, 3000, 5000);
+  m.Viti[++r] = Classe("6.8", 3000, 2100, 4800, 6000);
+  m.Viti[++r] = Classe("8.8", 3700, 2600, 6490, 8000);
+  m.Viti[++r] = Classe("10.9", 5000, 3500, 9000, 10000);
+  m.NumViti = r;
+}
+
+SessioneProva::SessioneProva() {
+  static std::atomic<int> contatore{0};
+  cartella = std::filesystem::temp_directory_path() /
+             ("qf17-nodo-" + std::to_string(::getpid()) + "-" + std::to_string(++contatore));
+  std::filesystem::remove_all(cartella);
+  std::filesystem::create_directories(cartella);
+  RiempiProfiliProva(sessione.profili);
+  RiempiMaterialiProva(sessione.materiali);
+  sessione.nodo.DirLavoro = cartella.string();
+}
+
+SessioneProva::~SessioneProva() {
+  std::error_code ec;
+  std::filesystem::remove_all(cartella, ec);
+}
+
+std::filesystem::path SessioneProva::ScriviFile(const std::string& nome,
+                                                const std::string& byte) const {
+  auto f = cartella / nome;
+  std::ofstream(f, std::ios::binary | std::ios::trunc) << byte;
+  return f;
+}
+
+std::string ContenutoFile(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  if (!in) return "<manca>";
+  std::ostringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
+std::filesystem::path DatoProva(const std::string& nome) {
+  return std::filesystem::path(QF17_DATI_TEST) / "nodo" / "dati" / nome;
+}
+
+}  // namespace qf17::prova

@@ -1,0 +1,161 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "nodo/file_nodo.h"
+#include "sessione_prova.h"
+
+namespace qf17 {
+namespace {
+
+using prova::ContenutoFile;
+using prova::DatoProva;
+using prova::SessioneProva;
+
+constexpr double kGrado = 3.14159265358979 / 180;
+
+TEST(FileNodoVecchio, SecondaGenerazione) {
+  Nodo n;
+  ASSERT_TRUE(LeggiNodoVecchio(n, DatoProva("vecchio2.qf7")));
+  EXPECT_EQ(n.Corrente.Nome, "HEA200");
+  EXPECT_EQ(n.Cor_teta, 0);
+  EXPECT_EQ(n.Lato_Sald, 7);
+  EXPECT_EQ(n.Aste[1].Nome, "LU70x7");
+  EXPECT_EQ(n.Aste[1].Tipo, 1);
+  EXPECT_EQ(n.Ast_modo[1], 1);
+  EXPECT_EQ(n.Ast_ins[1], 180);
+  EXPECT_EQ(n.Ast_teta[1], 45 * kGrado);
+  EXPECT_EQ(n.Saldature(1, 2).Sld_L, 180);
+  EXPECT_EQ(n.Ast_modo[3], 2);
+  EXPECT_EQ(n.Ast_lato[3], 1);
+  EXPECT_EQ(n.Ast_teta[3], 135 * kGrado);
+  EXPECT_EQ(n.Fz_s, 12);
+  EXPECT_EQ(n.nBull[0], 0);
+  EXPECT_EQ(n.nBull[1], 3);
+  EXPECT_EQ(n.xBull(1, 3), 140);
+  EXPECT_EQ(n.nBull[2], 2);
+  EXPECT_EQ(n.yBull(2, 2), 30);
+  EXPECT_EQ(n.FiBull(3, 1), 16);
+  EXPECT_EQ(n.acciaio.Nome, "S 275 (FE 430)");
+  EXPECT_EQ(n.vite.Nome, "8.8");
+  EXPECT_EQ(n.Esposizione, 1);
+  EXPECT_EQ(n.nSollAg, 2);
+  EXPECT_EQ(n.SforzoNormale(1, 1), -18500);
+  EXPECT_EQ(n.SforzoNormale(3, 2), 3900);
+  EXPECT_EQ(n.CasoCarico[2], 1);
+  // A quoted string keeps its commas.
+  EXPECT_EQ(n.NomeSa[1], "Soll 1, neve");
+  EXPECT_EQ(n.NumNodi, 1);
+  EXPECT_EQ(n.NomeNodi[1], 345);
+  EXPECT_EQ(n.Ast_coeff[3], 0.9);
+  EXPECT_EQ(n.TipoVer, 0);
+}
+
+TEST(FileNodoVecchio, PrimaGenerazione) {
+  Nodo n;
+  n.acciaio.Nome = "prima";
+  n.acciaio.fy = 1234;
+  ASSERT_TRUE(LeggiNodoVecchio(n, DatoProva("vecchio1.qf7")));
+  EXPECT_EQ(n.Corrente.Nome, "UPN160");
+  EXPECT_EQ(n.Cor_teta, -5 * kGrado);
+  EXPECT_EQ(n.Lato_Sald, 10);
+  // Whole degrees: 50.5 rounds half to even.
+  EXPECT_EQ(n.Ast_teta[1], 50 * kGrado);
+  EXPECT_EQ(n.Aste[2].Nome, "UPN120");
+  EXPECT_EQ(n.Aste[2].Tipo, 0);
+  EXPECT_EQ(n.Ast_flag[3], 0);
+  EXPECT_EQ(n.Ast_flag[6], 0);
+  EXPECT_EQ(n.Saldature(3, 1).Sld_L, 140);
+  EXPECT_EQ(n.nBull[0], 2);
+  EXPECT_EQ(n.xBull(0, 2), 600);
+  EXPECT_EQ(n.FiBull(2, 2), 20);
+  EXPECT_EQ(n.nBull[3], 0);
+  // The first generation's strengths go into the current records' first two fields.
+  EXPECT_EQ(n.acciaio.Nome, "FE 360");
+  EXPECT_EQ(n.acciaio.SAmm, 1600);
+  EXPECT_EQ(n.acciaio.SAmm40, 1400);
+  EXPECT_EQ(n.acciaio.fy, 1234);
+  EXPECT_EQ(n.vite.Nome, "8.8");
+  EXPECT_EQ(n.vite.SAmmViti, 3700);
+  EXPECT_EQ(n.vite.TauAmmViti, 2600);
+  EXPECT_EQ(n.nSollAg, 1);
+  EXPECT_EQ(n.SforzoNormale(2, 1), -9000);
+  EXPECT_EQ(n.NomeSa[1], "Soll 1");
+  EXPECT_EQ(n.NumNodi, 0);
+  EXPECT_EQ(n.TipoVer, 1);
+}
+
+TEST(FileNodoVecchio, ApertoDalComandoPrendeLeLibrerie) {
+  SessioneProva s;
+  ASSERT_TRUE(ApriNodoDaFile(s.sessione, DatoProva("vecchio2.qf7")));
+  const Nodo& n = s.sessione.nodo;
+  EXPECT_EQ(n.NomeFileNodo, "vecchio2");
+  EXPECT_EQ(n.Corrente.h, 190);
+  EXPECT_EQ(n.Aste[2].Area, 691);
+  EXPECT_EQ(n.acciaio.fy, 2750);
+  EXPECT_EQ(n.vite.ftViti, 8000);
+  EXPECT_TRUE(s.piattaforma.messaggi.empty());
+}
+
+TEST(FileNodoVecchio, OgniGuastoESilenzioso) {
+  const std::string intero = ContenutoFile(DatoProva("vecchio2.qf7"));
+  struct Caso {
+    std::string nome, contenuto;
+  };
+  auto sostituisci = [&](const std::string& da, const std::string& a) {
+    std::string t = intero;
+    t.replace(t.find(da), da.size(), a);
+    return t;
+  };
+  const Caso casi[] = {
+      {"troncato", intero.substr(0, intero.size() - 3)},
+      {"vuoto", ""},
+      {"metodo 2", sostituisci("0.9\r\n0\r\n", "0.9\r\n2\r\n")},
+      {"esposizione 0", sostituisci("\"8.8\",2", "\"8.8\",0")},
+      {"2001 bulloni", sostituisci("\r\n3\r\n40,35,16", "\r\n2001\r\n40,35,16")},
+      {"201 sollecitazioni", sostituisci("\r\n2\r\n-18500", "\r\n201\r\n-18500")},
+      {"oltre 16 bit", sostituisci("0,7\r\n", "0,70000\r\n")},
+  };
+  for (const Caso& c : casi) {
+    SessioneProva s;
+    Nodo n;
+    const auto f = s.ScriviFile("vecchio.qf7", c.contenuto);
+    EXPECT_FALSE(LeggiNodoVecchio(n, f)) << c.nome;
+    EXPECT_TRUE(s.piattaforma.messaggi.empty()) << c.nome;
+  }
+}
+
+TEST(FileNodoVecchio, UnGuastoLasciaQuantoLettoNelNodoMaNonNellaSessione) {
+  SessioneProva s;
+  s.sessione.nodo.Fz_s = 99;
+  const std::string intero = ContenutoFile(DatoProva("vecchio2.qf7"));
+  const auto f = s.ScriviFile("troncato.qf7", intero.substr(0, intero.size() - 3));
+  Nodo n;
+  EXPECT_FALSE(LeggiNodoVecchio(n, f));
+  EXPECT_EQ(n.Fz_s, 12);
+  EXPECT_EQ(n.Ast_coeff[3], 0.9);
+
+  EXPECT_FALSE(ApriNodoDaFile(s.sessione, f));
+  EXPECT_EQ(s.sessione.nodo.Fz_s, 99);
+  EXPECT_EQ(s.sessione.nodo.NomeFileNodo, "Nuovo");
+  ASSERT_EQ(s.piattaforma.messaggi.size(), 1u);
+  EXPECT_EQ(s.piattaforma.messaggi[0].testo, "File:\n" + f.string());
+  EXPECT_EQ(s.piattaforma.messaggi[0].titolo, "QF17 - LETTURA NON RIUSCITA");
+  EXPECT_EQ(s.piattaforma.messaggi[0].icona, Icona::Critica);
+}
+
+TEST(FileNodoVecchio, SenzaReleaseQuestoFileEVecchio) {
+  SessioneProva s;
+  // A keyed file whose header lost its file release goes to the positional reader and fails.
+  std::string testo = ContenutoFile(DatoProva("nodo_piccolo.qf7"));
+  testo.replace(testo.find(" [ReleaseQuestoFile=1]"), 22, "");
+  const auto f = s.ScriviFile("senza.qf7", testo);
+  s.sessione.nodo.Fz_s = 99;
+  EXPECT_FALSE(ApriNodoDaFile(s.sessione, f));
+  EXPECT_EQ(s.sessione.nodo.Fz_s, 99);
+  ASSERT_EQ(s.piattaforma.messaggi.size(), 1u);
+  EXPECT_EQ(s.piattaforma.messaggi[0].titolo, "QF17 - LETTURA NON RIUSCITA");
+}
+
+}  // namespace
+}  // namespace qf17
