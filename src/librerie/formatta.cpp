@@ -1,0 +1,322 @@
+#include "librerie/formatta.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "librerie/conversioni_unita.h"
+#include "librerie/numeri.h"
+#include "librerie/token.h"
+#include "piattaforma/file_testo.h"
+
+namespace qf17 {
+namespace {
+
+constexpr const char* kTitolo = "QF17";
+constexpr std::size_t kNo = std::string::npos;
+// The numbers of the commands have at most three digits, which also bounds every field and
+// every run of filling characters a command string can ask for.
+constexpr int kMassimoNumero = 999;
+
+std::size_t Trova(std::string_view comandi, std::string_view prefisso) {
+  return Minuscolo(comandi).find(prefisso);
+}
+
+// The number behind a command's four-character prefix, read the permissive way from at most
+// three characters, so that "(fd_8)" and "(cd_002)" both read.
+int NumeroComando(std::string_view comandi, std::size_t inizio) {
+  double n = ArrotondaPari(NumeroIniziale(comandi.substr(inizio + 4, 3)));
+  return static_cast<int>(std::clamp<double>(n, -kMassimoNumero, kMassimoNumero));
+}
+
+std::string Errore(Piattaforma& piattaforma, const std::string& testo) {
+  piattaforma.Messaggio(testo, kTitolo, Icona::Critica, Pulsanti::Ok);
+  return "";
+}
+
+// The decimals a scale takes away: one more from each decade, counted from a scale of 5 on.
+int SpostamentoScala(double scala) {
+  if (!(std::fabs(scala) > 0.0001)) return 0;
+  double s = -ArrotondaPari(std::log10(std::fabs(scala)) - 0.19897);
+  return static_cast<int>(std::clamp<double>(s, -kMassimoNumero, kMassimoNumero));
+}
+
+// Half to even at `decimali` decimals; a value with no digits left at that place stays as it is.
+double ArrotondaDecimali(double x, int decimali) {
+  if (!std::isfinite(x) || decimali > 300) return x;
+  if (std::fabs(x) * std::pow(10.0, decimali) >= 4503599627370496.0) return x;
+  return ArrotondaPari(x, decimali);
+}
+
+std::string Fisso(double x, int decimali) {
+  std::string buffer(static_cast<std::size_t>(decimali) + 400, '\0');
+  auto [fine, errore] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), x,
+                                      std::chars_format::fixed, decimali);
+  if (errore != std::errc()) return TestoNumero(x);
+  return std::string(buffer.data(), fine);
+}
+
+// The runtime's digit places "###" or "###.##": every digit of the integer part but no lone
+// zero before the point, the decimals without trailing zeros, the point kept when asked for.
+std::string DigitPlaces(double x, bool punto, int decimali) {
+  if (!std::isfinite(x)) return TestoNumero(x);
+  if (!punto) decimali = 0;
+  const double r = ArrotondaDecimali(x, decimali);
+  std::string cifre = Fisso(std::fabs(r), decimali);
+  std::size_t p = cifre.find('.');
+  std::string intero = cifre.substr(0, p);
+  std::string decimi = p == kNo ? std::string() : cifre.substr(p + 1);
+  while (!decimi.empty() && decimi.back() == '0') decimi.pop_back();
+  if (intero == "0") intero.clear();
+  std::string t = r < 0 ? "-" : "";
+  t += intero;
+  if (punto) t += "." + decimi;
+  return t;
+}
+
+// The runtime's exponent form "###.E-0": `cifre` digits before the point, none after, and the
+// exponent with a sign only when negative.
+std::string Esponenziale(double x, int cifre) {
+  if (!std::isfinite(x)) return TestoNumero(x);
+  if (x == 0) return std::string(static_cast<std::size_t>(cifre), '0') + ".E0";
+  std::string buffer(static_cast<std::size_t>(cifre) + 40, '\0');
+  auto [fine, errore] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(x),
+                                      std::chars_format::scientific, cifre - 1);
+  if (errore != std::errc()) return TestoNumero(x);
+  std::string testo(buffer.data(), fine);
+  std::size_t e = testo.find('e');
+  std::string mantissa = testo.substr(0, e);
+  mantissa.erase(std::remove(mantissa.begin(), mantissa.end(), '.'), mantissa.end());
+  int esponente = 0;
+  const char* da = testo.data() + e + 1;
+  if (*da == '+') ++da;
+  std::from_chars(da, testo.data() + testo.size(), esponente);
+  esponente -= cifre - 1;
+  return (x < 0 ? "-" : "") + mantissa + ".E" + std::to_string(esponente);
+}
+
+std::string TogliUltimoCarattere(std::string t) {
+  while (!t.empty() && (static_cast<unsigned char>(t.back()) & 0xC0) == 0x80) t.pop_back();
+  if (!t.empty()) t.pop_back();
+  return t;
+}
+
+std::string Stelle(int larghezza, std::string_view comandi) {
+  std::string t(static_cast<std::size_t>(larghezza), '*');
+  AggiungiSuffisso(t, comandi);
+  return t;
+}
+
+std::string Blanchi(std::size_t da, int fino) {
+  return da < static_cast<std::size_t>(fino) ? std::string(fino - da, ' ') : std::string();
+}
+
+// Fits a plain number text into `w` characters; false when only stars are left.
+bool AdattaPiano(std::string& t, double x, int punto, int w, const std::string& riempi,
+                 bool& esponente) {
+  const std::size_t n = NumeroCaratteri(t);
+  const auto larghezza = static_cast<std::size_t>(w);
+  if (n < larghezza) {
+    t = Blanchi(n, w) + t;
+  } else if (n > larghezza) {
+    if (punto - 1 == w) {
+      t = DigitPlaces(x, false, 0);
+    } else if (punto - 1 > w) {
+      if (w < 4) return false;
+      t = Esponenziale(x, w - 3);
+      esponente = true;
+    } else {
+      t = DigitPlaces(x, true, w - punto);
+      for (std::size_t k = NumeroCaratteri(t); k < larghezza; ++k) t += riempi;
+    }
+  }
+  return true;
+}
+
+// Fits an exponent text into `w` characters by dropping digits of the mantissa.
+bool AdattaEsponente(std::string& t, double x, int w) {
+  const auto larghezza = static_cast<std::size_t>(w);
+  for (int k = w - 3; k >= 1; --k) {
+    t = Esponenziale(x, k);
+    const std::size_t n = NumeroCaratteri(t);
+    if (n == larghezza) break;
+    if (n < larghezza) {
+      t = Blanchi(n, w) + t;
+      break;
+    }
+  }
+  return NumeroCaratteri(t) == larghezza;
+}
+
+}  // namespace
+
+std::string Formatta(double valore, std::string_view comandi, double& scala,
+                     Piattaforma& piattaforma) {
+  double x = valore * scala;
+  if (comandi.empty()) return TestoNumero(x);
+
+  int spostamento = SpostamentoScala(scala);
+  if (Trova(comandi, "(cu_") != kNo && !ConvertiUnita(x, comandi, spostamento, piattaforma)) {
+    return "";
+  }
+
+  std::string lavoro(comandi);
+  if (auto p = Trova(lavoro, "(cs_"); p != kNo) {
+    int n = NumeroComando(lavoro, p);
+    if (n < 1) return Errore(piattaforma, "comando (cs_nn) errato.");
+    x = CifreSignificative(x, n);
+  }
+  if (auto p = Trova(lavoro, "(dv_"); p != kNo) {
+    int n = NumeroComando(lavoro, p);
+    if (n < 0) return Errore(piattaforma, "comando (dv_nn) errato (2).");
+    int d = std::max(0, n + spostamento);
+    if (d >= 100) return Errore(piattaforma, "comando (dv_nn) errato (1).");
+    std::size_t fine = lavoro.find(')', p);
+    fine = fine == kNo ? lavoro.size() : fine + 1;
+    std::string tre = std::to_string(d);
+    lavoro.replace(p, fine - p, "(cd_" + std::string(3 - tre.size(), '0') + tre + ")");
+  }
+  int decimali = 10;
+  const bool conCd = Trova(lavoro, "(cd_") != kNo;
+  if (conCd) {
+    decimali = NumeroComando(lavoro, Trova(lavoro, "(cd_"));
+    if (decimali < 0) return Errore(piattaforma, "comando (cd_nn) errato.");
+    x = ArrotondaDecimali(x, decimali);
+  }
+
+  std::string t = TestoNumero(x);
+  bool esponente = t.find_first_of("eE") != kNo;
+  int punto = 0;
+  std::string riempi = " ";
+  if (!esponente) {
+    punto = PuntoDecimale(t);
+    if (conCd) {
+      if (auto z = Trova(lavoro, "(zr_"); z != kNo && z + 4 < lavoro.size()) {
+        riempi = PrimiCaratteri(std::string_view(lavoro).substr(z + 4), 1);
+      }
+      for (int k = static_cast<int>(t.size()) - punto; k < decimali; ++k) t += riempi;
+    }
+  }
+
+  const std::size_t fd = Trova(lavoro, "(fd_");
+  const std::size_t fs = Trova(lavoro, "(fs_");
+  if (fd != kNo || fs != kNo) {
+    const int w = NumeroComando(lavoro, fd != kNo ? fd : fs);
+    if (w < 2) return Errore(piattaforma, "comando (fd_nn) o (fs_nn) errato.");
+    if (!esponente && !AdattaPiano(t, x, punto, w, riempi, esponente)) return Stelle(w, comandi);
+    if (esponente && !AdattaEsponente(t, x, w)) return Stelle(w, comandi);
+    if (fs != kNo) {
+      t = Rifila(t);
+      t += Blanchi(NumeroCaratteri(t), w);
+    }
+  }
+
+  if (Trova(lavoro, "(np_1)") != kNo) {
+    const std::string rifilato = Rifila(t);
+    if (!rifilato.empty() && rifilato.back() == '.') {
+      t[t.rfind('.')] = ' ';
+      if (fd != kNo && !conCd) t = " " + TogliUltimoCarattere(t);
+    }
+  }
+  if (fd == kNo && fs == kNo) t = Rifila(t);
+  AggiungiSuffisso(t, comandi);
+  return t;
+}
+
+bool ConvertiUnita(double& valore, std::string_view comandi, int& spostamento,
+                   Piattaforma& piattaforma) {
+  static const std::vector<std::string> chiavi = [] {
+    std::vector<std::string> c;
+    for (const auto& riga : TabellaConversioni())
+      c.push_back("(cu_" + Minuscolo(riga.chiave) + ")");
+    return c;
+  }();
+  const std::string c = Minuscolo(comandi);
+  const auto tabella = TabellaConversioni();
+  for (std::size_t i = 0; i < tabella.size(); ++i) {
+    if (c.find(chiavi[i]) != kNo) {
+      valore *= tabella[i].fattore;
+      spostamento = tabella[i].spostamento;
+      return true;
+    }
+  }
+  spostamento = 0;
+  const std::size_t inizio = c.find("(cu_");
+  if (inizio == kNo) return true;
+  const std::size_t chiusa = c.find(')', inizio);
+  const std::size_t lunghezza = (chiusa == kNo ? c.size() : chiusa + 1) - inizio;
+  // A bare "(cu_" closing the string asks for nothing.
+  if (lunghezza <= 4) return true;
+  piattaforma.Messaggio("Stringa di conversione unità di misura non riconosciuta.", kTitolo,
+                        Icona::Critica, Pulsanti::Ok);
+  return false;
+}
+
+double CifreSignificative(double valore, int cifre) {
+  if (!std::isfinite(valore) || valore == 0 || cifre < 1 || cifre >= 17) return valore;
+  char buffer[64];
+  auto [fine, errore] = std::to_chars(buffer, buffer + sizeof buffer, valore,
+                                      std::chars_format::scientific, cifre - 1);
+  if (errore != std::errc()) return valore;
+  double letto = valore;
+  auto [resto, esito] = std::from_chars(buffer, fine, letto);
+  (void)resto;
+  return esito == std::errc() ? letto : valore;
+}
+
+int PuntoDecimale(std::string& testo) {
+  if (testo.find_first_of("eE") != kNo) return -1;
+  std::size_t p = testo.find('.');
+  if (p == kNo) {
+    testo += '.';
+    return static_cast<int>(testo.size());
+  }
+  return static_cast<int>(p) + 1;
+}
+
+void AggiungiSuffisso(std::string& testo, std::string_view comandi) {
+  const std::size_t p = Trova(comandi, "(sc_");
+  if (p == kNo) return;
+  const std::size_t inizio = p + 4;
+  const std::size_t fine = comandi.find(')', inizio);
+  testo += comandi.substr(inizio, fine == kNo ? kNo : fine - inizio);
+}
+
+int UltimaPosizione(std::string_view testo, std::string_view cercato) {
+  if (cercato.empty()) return 0;
+  const std::size_t p = testo.rfind(cercato);
+  if (p == kNo) return 0;
+  return static_cast<int>(NumeroCaratteri(testo.substr(0, p))) + 1;
+}
+
+std::string FormatoColonna(const ValoreColonna& valore, int larghezza, bool separatore,
+                           std::string_view allineamento, Piattaforma& piattaforma) {
+  const bool destra = allineamento == "R";
+  if (const auto* testo = std::get_if<std::string>(&valore)) {
+    const auto w = static_cast<std::size_t>(std::max(0, larghezza));
+    std::string t = Rifila(*testo);
+    const std::size_t n = NumeroCaratteri(t);
+    if (n > w) t = PrimiCaratteri(t, w);
+    if (n < w) t = destra ? std::string(w - n, ' ') + t : t + std::string(w - n, ' ');
+    if (separatore) t += "|";
+    return t;
+  }
+  std::string w = std::to_string(std::abs(larghezza));
+  if (w.size() < 2) w.insert(0, "0");
+  if (larghezza < 0) w.insert(0, "-");
+  std::string comandi = (destra ? "(FD_" : "(FS_") + w + ")";
+  if (separatore) comandi += "(SC_|)";
+  double numero = 0;
+  if (const auto* intero = std::get_if<long long>(&valore)) {
+    comandi += "(NP_1)";
+    numero = static_cast<double>(*intero);
+  } else {
+    numero = std::get<double>(valore);
+  }
+  double scala = 1;
+  return Formatta(numero, comandi, scala, piattaforma);
+}
+
+}  // namespace qf17
