@@ -53,7 +53,8 @@ int PosizioneInLista(const Materiali& materiali, std::int16_t tipoVer, std::stri
 // The place of exactly `nome` in the panel's steel list as it stands; -1 when absent.
 int PostoInLista(const Materiali& materiali, std::string_view nome);
 
-// Clicks of the panel, as logic; each does nothing while `Aggiornamento` is 1.
+// Clicks of the panel, as logic; each does nothing while `Aggiornamento` is 1, and a list
+// click does nothing at a place beyond its list.
 // The steel list: the node's steel becomes table row `indiceLista` + 1, even when the list skips
 // rows the method forbids (the family's behaviour, kept).
 void SceltaAcciaio(Sessione& sessione, int indiceLista);

@@ -7,8 +7,9 @@ namespace qf17 {
 
 void SceltaAcciaio(Sessione& sessione, int indiceLista) {
   Nodo& nodo = sessione.nodo;
-  if (nodo.Aggiornamento == 1 || indiceLista < 0) return;
   Materiali& m = sessione.materiali;
+  if (nodo.Aggiornamento == 1 || indiceLista < 0) return;
+  if (indiceLista >= static_cast<int>(m.ListaAcciai.size())) return;  // no such place
   m.ListaAcciaiScelta = indiceLista;
   // The row is the list place + 1 although the list may skip forbidden rows: kept as it is.
   nodo.acciaio = m.Acciai[indiceLista + 1];
@@ -16,8 +17,9 @@ void SceltaAcciaio(Sessione& sessione, int indiceLista) {
 
 void SceltaVite(Sessione& sessione, int indiceLista) {
   Nodo& nodo = sessione.nodo;
-  if (nodo.Aggiornamento == 1 || indiceLista < 0) return;
-  nodo.vite = sessione.materiali.Viti[indiceLista + 1];
+  const Materiali& m = sessione.materiali;
+  if (nodo.Aggiornamento == 1 || indiceLista < 0 || indiceLista >= m.NumViti) return;
+  nodo.vite = m.Viti[indiceLista + 1];
 }
 
 void CambiaMetodo(Sessione& sessione, std::int16_t tipoVer) {
