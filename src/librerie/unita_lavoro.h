@@ -12,14 +12,31 @@ namespace qf17 {
 
 struct Sessione;
 
-// Reads parametrilavoro of the job folder and computes the factors (ParUni).
+// Reads parametrilavoro of the job folder and computes the factors (ParUni). A file that is
+// missing or unreadable is told to the user under "ATTENZIONE" and the job gets the units of
+// UnitaPredefinite.
 void LeggiUnitaLavoro(Sessione& sessione);
-// The factors and decimals of the unit names already in `unita`.
+
+// The unit names and constants of one parametrilavoro file into `unita`; the keys the file does
+// not hold leave their fields alone. False when the file cannot be read, is empty or holds a
+// number beyond range.
+bool LeggiParametriLavoro(const std::filesystem::path& file, UnitaLavoro& unita);
+
+// mm, daN, daN/cm2 and their companions, with the factors already computed.
+UnitaLavoro UnitaPredefinite();
+
+// The factors and decimals of the unit names already in `unita`. A name that fits no rule leaves
+// factor 0 and decimals 0.
 void ParUni(UnitaLavoro& unita);
 
 // Starts the unit tool and waits; on its end returns line 1 of ux_unimis.tmp in the temp folder,
-// trimmed. No value when the tool could not start or gave nothing.
+// trimmed. No value when the tool could not start or left no file. `titolo` is "assente" or
+// empty for none, otherwise a bare title or one already in the "|titolo=...|" form.
 std::optional<std::string> LanciaUnita(Sessione& sessione, std::string_view valore, int categoria,
                                        std::string_view unita, std::string_view titolo);
+
+// The double click on the load box 1, 2 or 3 of a row (members A, B, C): the unit tool on the
+// box's force, and the text the box shows afterwards.
+std::string TbDblClick(Sessione& sessione, int casella, std::string_view testo);
 
 }  // namespace qf17
