@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "librerie/materiali.h"
+#include "nodo/chiavi.h"
 #include "nodo/sessione.h"
+#include "piattaforma/file_testo.h"
 #include "piattaforma/piattaforma_registrata.h"
 
 namespace qf17 {
@@ -85,6 +87,10 @@ TEST(MaterialiBase, BaseValida) {
   EXPECT_EQ(m.Base.SAmmCls, 97.5);
   EXPECT_EQ(m.Base.TipoAcciaioCA, "B450C");
   EXPECT_EQ(m.AcciaioBase, m.Acciai[2]);  // the sample repeats the table's figures
+
+  auto righe = LeggiRighe(kInstallazione / "lavori" / "esempi" / "propmateriali.tx1");
+  ASSERT_TRUE(righe && !righe->empty());
+  EXPECT_EQ(righe->front(), TestataRelease("file_materiali_base", 1));
 }
 
 TEST(MaterialiBase, AcciaioDaValoriDellaBase) {
