@@ -8,6 +8,19 @@
 #include "librerie/profilo.h"
 #include "piattaforma/piattaforma.h"
 
+// The section library: one text file of blank-separated fields, "family size values...", read in
+// two filtered passes into one table (rows of the first pass are I and H sections, those of the
+// second channels and angles). The file gives dimensions in mm, areas in cm2 and second moments
+// in cm4; both passes scale them to mm, mm2 and mm4.
+//
+// What the three moments of a row are, the same rule for every family: I1 is about the centroidal
+// axis parallel to the width b (the strong axis of an I, H or channel; for an angle the axis
+// parallel to the short leg), I2 about the centroidal axis parallel to the height h (the weak
+// axis of an I, H or channel; for an angle the axis parallel to the leg h, which is the one the
+// net-section check bends about), I3 the torsion constant for I, H and channels and the minimum
+// principal moment (v-v) for angles. Centroid distances of angles: dBarX is measured along h from
+// the back of the other leg, dBarY along b from the back of the leg h; a channel's dBarY is the
+// distance of the centroid from the back of its web.
 namespace qf17 {
 
 // The families each pass of the library accepts; the blanks belong to the text.
@@ -21,11 +34,16 @@ inline constexpr std::string_view kFiltroSecondaPassata = " UPN  LD  LU ";
 int LeggiProfilario(const std::filesystem::path& file, int primaRiga, LibreriaProfili& libreria,
                     double fattoreLunghezza, double fattoreArea, std::string_view filtro);
 
-// The two passes of start-up (mm, mm2, mm4 in memory). False when either pass stored nothing:
-// the caller shows "Profilario errato o mancante" and ends.
+// The two passes of start-up (mm, mm2, mm4 in memory), setting NumProfili1, NumProfili2 and
+// NumProfiliTot. False when either pass stored nothing: the caller shows "Profilario errato o
+// mancante" and ends. CompletaProfili is the caller's next step.
 bool LeggiProfili(LibreriaProfili& libreria, const std::filesystem::path& file);
 
+// Clears the dimensions, radii, centroid distances and Classe of a row before a line is parsed;
+// the name, area, moments, type and flange thicknesses keep what the row held.
 void AzzeraProfilo(Profilo& profilo);
+// Lengths times the length factor, the area times the square and the moments times the fourth
+// power of the area factor.
 void ScalaProfilo(Profilo& profilo, double fattoreLunghezza, double fattoreArea);
 
 // Type and derived radii and flange thicknesses of every row; run at start-up and after a load.

@@ -16,17 +16,17 @@ struct Profilo {
   double a = 0;  // web thickness
   double e = 0;  // flange thickness
   double Area = 0;
-  double eAnima = 0;  // channels: flange thickness at the web
-  double eBordo = 0;  // channels: flange thickness at the toe
-  double r1 = 0;
-  double r2 = 0;
-  double dBarX = 0;
-  double dBarY = 0;
+  double eAnima = 0;      // channels: flange thickness at the web
+  double eBordo = 0;      // channels: flange thickness at the toe
+  double r1 = 0;          // root radius; channels and angles: derived from e or a
+  double r2 = 0;          // toe radius; same remark
+  double dBarX = 0;       // centroid distance measured along h (angles), h / 2 for channels
+  double dBarY = 0;       // centroid distance measured along b
   std::int16_t Tipo = 0;  // see TipoProfilo
-  double I1 = 0;
-  double I2 = 0;
-  double I3 = 0;
-  std::string Classe;  // one character
+  double I1 = 0;          // about the axis parallel to b
+  double I2 = 0;          // about the axis parallel to h
+  double I3 = 0;          // torsion constant, or the minimum principal moment of an angle
+  std::string Classe;     // one character
 
   bool operator==(const Profilo&) const = default;
 };
