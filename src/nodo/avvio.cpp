@@ -143,6 +143,7 @@ void Avvio(Sessione& s, std::string_view rigaComando,
       LeggiMateriali(s.materiali, Unisci(s.cartelle.custom, "MaterialiNTC08.tx1"));
   if (!materiali.errore.empty()) Fine(p, materiali.errore, "ERRORE");
   LeggiMaterialiBase(s);
+  RiempiListaAcciai(s, "");
 
   if (!LeggiProfili(s.profili, Unisci(s.cartelle.custom, "Prof_pro"))) {
     Fine(p, "Profilario errato o mancante", "ERRORE");
