@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,11 @@ std::string Errore(Piattaforma& piattaforma, const std::string& testo) {
   return "";
 }
 
+std::nullopt_t Rifiuta(Piattaforma& piattaforma, const std::string& testo) {
+  Errore(piattaforma, testo);
+  return std::nullopt;
+}
+
 // The decimals a scale takes away: one more from each decade, counted from a scale of 5 on.
 int SpostamentoScala(double scala) {
   if (!(std::fabs(scala) > 0.0001)) return 0;
@@ -60,7 +66,7 @@ std::string Fisso(double x, int decimali) {
 
 // The runtime's digit places "###" or "###.##": every digit of the integer part but no lone
 // zero before the point, the decimals without trailing zeros, the point kept when asked for.
-std::string DigitPlaces(double x, bool punto, int decimali) {
+std::string PostiCifra(double x, bool punto, int decimali) {
   if (!std::isfinite(x)) return TestoNumero(x);
   if (!punto) decimali = 0;
   const double r = ArrotondaDecimali(x, decimali);
@@ -122,13 +128,13 @@ bool AdattaPiano(std::string& t, double x, int punto, int w, const std::string& 
     t = Blanchi(n, w) + t;
   } else if (n > larghezza) {
     if (punto - 1 == w) {
-      t = DigitPlaces(x, false, 0);
+      t = PostiCifra(x, false, 0);
     } else if (punto - 1 > w) {
       if (w < 4) return false;
       t = Esponenziale(x, w - 3);
       esponente = true;
     } else {
-      t = DigitPlaces(x, true, w - punto);
+      t = PostiCifra(x, true, w - punto);
       for (std::size_t k = NumeroCaratteri(t); k < larghezza; ++k) t += riempi;
     }
   }
@@ -150,41 +156,55 @@ bool AdattaEsponente(std::string& t, double x, int w) {
   return NumeroCaratteri(t) == larghezza;
 }
 
+// The value and the command string after the steps that change the value: conversion,
+// significant digits and decimals, with "(dv_nn)" turned into the "(cd_nnn)" it stands for.
+struct Preparato {
+  double x = 0;
+  std::string comandi;
+  int decimali = 10;
+  bool conCd = false;
+};
+
+std::optional<Preparato> Prepara(double x, std::string_view comandi, double scala,
+                                 Piattaforma& piattaforma) {
+  Preparato r{x, std::string(comandi)};
+  int spostamento = SpostamentoScala(scala);
+  if (Trova(comandi, "(cu_") != kNo && !ConvertiUnita(r.x, comandi, spostamento, piattaforma)) {
+    return std::nullopt;
+  }
+  if (auto p = Trova(r.comandi, "(cs_"); p != kNo) {
+    int n = NumeroComando(r.comandi, p);
+    if (n < 1) return Rifiuta(piattaforma, "comando (cs_nn) errato.");
+    r.x = CifreSignificative(r.x, n);
+  }
+  if (auto p = Trova(r.comandi, "(dv_"); p != kNo) {
+    int n = NumeroComando(r.comandi, p);
+    if (n < 0) return Rifiuta(piattaforma, "comando (dv_nn) errato (2).");
+    int d = std::max(0, n + spostamento);
+    if (d >= 100) return Rifiuta(piattaforma, "comando (dv_nn) errato (1).");
+    std::size_t fine = r.comandi.find(')', p);
+    fine = fine == kNo ? r.comandi.size() : fine + 1;
+    std::string tre = std::to_string(d);
+    r.comandi.replace(p, fine - p, "(cd_" + std::string(3 - tre.size(), '0') + tre + ")");
+  }
+  if (auto p = Trova(r.comandi, "(cd_"); p != kNo) {
+    r.conCd = true;
+    r.decimali = NumeroComando(r.comandi, p);
+    if (r.decimali < 0) return Rifiuta(piattaforma, "comando (cd_nn) errato.");
+    r.x = ArrotondaDecimali(r.x, r.decimali);
+  }
+  return r;
+}
+
 }  // namespace
 
 std::string Formatta(double valore, std::string_view comandi, double& scala,
                      Piattaforma& piattaforma) {
-  double x = valore * scala;
-  if (comandi.empty()) return TestoNumero(x);
-
-  int spostamento = SpostamentoScala(scala);
-  if (Trova(comandi, "(cu_") != kNo && !ConvertiUnita(x, comandi, spostamento, piattaforma)) {
-    return "";
-  }
-
-  std::string lavoro(comandi);
-  if (auto p = Trova(lavoro, "(cs_"); p != kNo) {
-    int n = NumeroComando(lavoro, p);
-    if (n < 1) return Errore(piattaforma, "comando (cs_nn) errato.");
-    x = CifreSignificative(x, n);
-  }
-  if (auto p = Trova(lavoro, "(dv_"); p != kNo) {
-    int n = NumeroComando(lavoro, p);
-    if (n < 0) return Errore(piattaforma, "comando (dv_nn) errato (2).");
-    int d = std::max(0, n + spostamento);
-    if (d >= 100) return Errore(piattaforma, "comando (dv_nn) errato (1).");
-    std::size_t fine = lavoro.find(')', p);
-    fine = fine == kNo ? lavoro.size() : fine + 1;
-    std::string tre = std::to_string(d);
-    lavoro.replace(p, fine - p, "(cd_" + std::string(3 - tre.size(), '0') + tre + ")");
-  }
-  int decimali = 10;
-  const bool conCd = Trova(lavoro, "(cd_") != kNo;
-  if (conCd) {
-    decimali = NumeroComando(lavoro, Trova(lavoro, "(cd_"));
-    if (decimali < 0) return Errore(piattaforma, "comando (cd_nn) errato.");
-    x = ArrotondaDecimali(x, decimali);
-  }
+  if (comandi.empty()) return TestoNumero(valore * scala);
+  auto lavoro = Prepara(valore * scala, comandi, scala, piattaforma);
+  if (!lavoro) return "";
+  const double x = lavoro->x;
+  const std::string& c = lavoro->comandi;
 
   std::string t = TestoNumero(x);
   bool esponente = t.find_first_of("eE") != kNo;
@@ -192,18 +212,18 @@ std::string Formatta(double valore, std::string_view comandi, double& scala,
   std::string riempi = " ";
   if (!esponente) {
     punto = PuntoDecimale(t);
-    if (conCd) {
-      if (auto z = Trova(lavoro, "(zr_"); z != kNo && z + 4 < lavoro.size()) {
-        riempi = PrimiCaratteri(std::string_view(lavoro).substr(z + 4), 1);
+    if (lavoro->conCd) {
+      if (auto z = Trova(c, "(zr_"); z != kNo && z + 4 < c.size()) {
+        riempi = PrimiCaratteri(std::string_view(c).substr(z + 4), 1);
       }
-      for (int k = static_cast<int>(t.size()) - punto; k < decimali; ++k) t += riempi;
+      for (int k = static_cast<int>(t.size()) - punto; k < lavoro->decimali; ++k) t += riempi;
     }
   }
 
-  const std::size_t fd = Trova(lavoro, "(fd_");
-  const std::size_t fs = Trova(lavoro, "(fs_");
+  const std::size_t fd = Trova(c, "(fd_");
+  const std::size_t fs = Trova(c, "(fs_");
   if (fd != kNo || fs != kNo) {
-    const int w = NumeroComando(lavoro, fd != kNo ? fd : fs);
+    const int w = NumeroComando(c, fd != kNo ? fd : fs);
     if (w < 2) return Errore(piattaforma, "comando (fd_nn) o (fs_nn) errato.");
     if (!esponente && !AdattaPiano(t, x, punto, w, riempi, esponente)) return Stelle(w, comandi);
     if (esponente && !AdattaEsponente(t, x, w)) return Stelle(w, comandi);
@@ -213,11 +233,12 @@ std::string Formatta(double valore, std::string_view comandi, double& scala,
     }
   }
 
-  if (Trova(lavoro, "(np_1)") != kNo) {
+  if (Trova(c, "(np_1)") != kNo) {
     const std::string rifilato = Rifila(t);
     if (!rifilato.empty() && rifilato.back() == '.') {
       t[t.rfind('.')] = ' ';
-      if (fd != kNo && !conCd) t = " " + TogliUltimoCarattere(t);
+      // Without fixed decimals the number moves right by the point's place.
+      if (fd != kNo && !lavoro->conCd) t = " " + TogliUltimoCarattere(t);
     }
   }
   if (fd == kNo && fs == kNo) t = Rifila(t);
