@@ -1,7 +1,114 @@
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <memory>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "librerie/token.h"
+#include "nodo/avvio.h"
+#include "nodo/descrizione_nodo.h"
+#include "nodo/file_nodo.h"
+#include "nodo/sessione.h"
+#include "piattaforma/errori.h"
+#include "piattaforma_cli.h"
+
+namespace {
+
+using namespace qf17;
+
+constexpr int kEsitoErrore = 2;
+
+std::filesystem::path CartellaProgramma(const char* argv0) {
+  std::error_code ec;
+  auto eseguibile = std::filesystem::read_symlink("/proc/self/exe", ec);
+  if (ec) eseguibile = std::filesystem::absolute(argv0, ec);
+  return eseguibile.parent_path();
+}
+
+// "|diroot=...|" fields are the family's launch convention, not options: they are taken out of
+// the arguments and form the launch command line.
+std::string EstraiRigaFamiglia(std::vector<std::string>& argomenti) {
+  std::string riga;
+  std::vector<std::string> resto;
+  for (auto& a : argomenti) {
+    if (Minuscolo(a).find("|diroot=") != std::string::npos) {
+      riga += a;
+    } else {
+      resto.push_back(a);
+    }
+  }
+  argomenti = resto;
+  return riga;
+}
+
+// A bare node name that is not in the current folder is looked for in the job folder.
+std::filesystem::path FileNodo(const Sessione& s, const std::string& nome) {
+  std::filesystem::path p(nome);
+  std::error_code ec;
+  if (std::filesystem::exists(p, ec) || p.has_parent_path()) return p;
+  return std::filesystem::path(s.nodo.DirLavoro) / p;
+}
+
+int Converti(Sessione& s, const std::string& ingresso, const std::string& uscita) {
+  if (!ApriNodoDaFile(s, FileNodo(s, ingresso))) return kEsitoErrore;
+  if (!SalvaNodoSuFile(s, uscita)) return kEsitoErrore;
+  std::cout << std::filesystem::absolute(uscita).string() << "\n";
+  return 0;
+}
+
+int Mostra(Sessione& s, const std::string& ingresso) {
+  if (!ApriNodoDaFile(s, FileNodo(s, ingresso))) return kEsitoErrore;
+  std::cout << DescrizioneNodo(s);
+  return 0;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
-  CLI::App app{"QF17 - nodo di travatura reticolare"};
-  CLI11_PARSE(app, argc, argv);
-  return 0;
+  std::vector<std::string> argomenti(argv + 1, argv + argc);
+  std::string rigaFamiglia = EstraiRigaFamiglia(argomenti);
+  std::reverse(argomenti.begin(), argomenti.end());
+
+  CLI::App app{"QF17 - verifica e disegno di un nodo di travatura reticolare bullonata"};
+  app.require_subcommand(1);
+  std::string radice;
+  bool annulla = false;
+  app.add_option("--root", radice, "Cartella radice dell'installazione (come |diroot=...|)");
+  app.add_flag("--annulla", annulla, "Risponde Annulla alle domande OK/Annulla");
+
+  std::string ingresso, uscita;
+  auto* converti = app.add_subcommand("converti", "Apre un file nodo (anche vecchio) e lo salva "
+                                                  "nel formato a chiavi");
+  converti->add_option("NODO", ingresso, "File nodo .qf7")->required();
+  converti->add_option("-o,--output", uscita, "File nodo da scrivere")->required();
+  auto* nodo = app.add_subcommand("nodo", "Mostra il nodo caricato");
+  nodo->add_option("NODO", ingresso, "File nodo .qf7")->required();
+
+  try {
+    app.parse(argomenti);
+  } catch (const CLI::ParseError& e) {
+    return app.exit(e) == 0 ? 0 : kEsitoErrore;
+  }
+  if (!radice.empty()) rigaFamiglia = "|diroot=" + radice + "|";
+
+  PiattaformaCli piattaforma(annulla);
+  try {
+    auto sessione = std::make_unique<Sessione>(piattaforma);
+    Avvio(*sessione, rigaFamiglia, CartellaProgramma(argv[0]));
+    if (*converti) return Converti(*sessione, ingresso, uscita);
+    if (*nodo) return Mostra(*sessione, ingresso);
+  } catch (const FineProgramma&) {
+    return kEsitoErrore;
+  } catch (const ErroreFatale& e) {
+    std::cerr << "ERRORE: " << e.what() << std::endl;
+    return kEsitoErrore;
+  } catch (const std::exception& e) {
+    std::cerr << "ERRORE: " << e.what() << std::endl;
+    return kEsitoErrore;
+  }
+  return kEsitoErrore;
 }
