@@ -2,9 +2,9 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <memory>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -81,8 +81,9 @@ int main(int argc, char** argv) {
   app.add_flag("--annulla", annulla, "Risponde Annulla alle domande OK/Annulla");
 
   std::string ingresso, uscita;
-  auto* converti = app.add_subcommand("converti", "Apre un file nodo (anche vecchio) e lo salva "
-                                                  "nel formato a chiavi");
+  auto* converti = app.add_subcommand("converti",
+                                      "Apre un file nodo (anche vecchio) e lo salva "
+                                      "nel formato a chiavi");
   converti->add_option("NODO", ingresso, "File nodo .qf7")->required();
   converti->add_option("-o,--output", uscita, "File nodo da scrivere")->required();
   auto* nodo = app.add_subcommand("nodo", "Mostra il nodo caricato");

@@ -10,7 +10,9 @@
 namespace qf17 {
 namespace {
 
-bool Cifra(char c) { return c >= '0' && c <= '9'; }
+bool Cifra(char c) {
+  return c >= '0' && c <= '9';
+}
 
 // Length of the longest valid number at the start of `t` (which has no leading blanks).
 std::size_t LunghezzaNumero(std::string_view t) {
@@ -38,8 +40,8 @@ double Converti(std::string_view numero) {
   if (!numero.empty() && numero.front() == '+') numero.remove_prefix(1);
   // A lone point after the digits ("12.") is valid here and not for from_chars.
   std::string testo(numero);
-  if (auto p = testo.find('.'); p != std::string::npos &&
-                                (p + 1 == testo.size() || !Cifra(testo[p + 1]))) {
+  if (auto p = testo.find('.');
+      p != std::string::npos && (p + 1 == testo.size() || !Cifra(testo[p + 1]))) {
     testo.insert(p + 1, "0");
   }
   if (testo.front() == '.' || (testo.size() > 1 && testo[0] == '-' && testo[1] == '.')) {
@@ -51,9 +53,8 @@ double Converti(std::string_view numero) {
     // Underflow reads as zero; overflow is an error the user must see. Which of the two it was
     // shows in the sign of the exponent, since no mantissa of ours reaches 1E+308 by itself.
     auto e = testo.find_first_of("eE");
-    bool piccolo = e != std::string::npos
-                       ? e + 1 < testo.size() && testo[e + 1] == '-'
-                       : testo.find_first_not_of("-0") == testo.find('.');
+    bool piccolo = e != std::string::npos ? e + 1 < testo.size() && testo[e + 1] == '-'
+                                          : testo.find_first_not_of("-0") == testo.find('.');
     if (piccolo) return 0.0;
     throw ErroreFatale("Overflow: numero troppo grande (" + testo + ")");
   }
@@ -113,7 +114,9 @@ std::string TestoNumero(double valore) {
   return testo;
 }
 
-std::string TestoNumero(long long valore) { return std::to_string(valore); }
+std::string TestoNumero(long long valore) {
+  return std::to_string(valore);
+}
 
 std::string TestoLista(double valore) {
   std::string t = TestoNumero(valore);

@@ -5,7 +5,9 @@
 namespace qf17 {
 namespace {
 
-bool Blank(char c) { return c == ' ' || c == '\t'; }
+bool Blank(char c) {
+  return c == ' ' || c == '\t';
+}
 
 }  // namespace
 

@@ -38,8 +38,8 @@ std::string RadiceDaRiga(std::string_view riga) {
   if (p == std::string::npos) return {};
   std::size_t inizio = p + chiave.size();
   std::size_t fine = riga.find('|', inizio);
-  return std::string(riga.substr(inizio, fine == std::string_view::npos ? riga.size() - inizio
-                                                                          : fine - inizio));
+  return std::string(
+      riga.substr(inizio, fine == std::string_view::npos ? riga.size() - inizio : fine - inizio));
 }
 
 bool FinisceCon(std::string_view testo, std::string_view coda) {
@@ -75,9 +75,16 @@ std::string NomeLavoro(const std::string& impostazioni, Piattaforma& piattaforma
 }
 
 void ControllaCartelle(const Cartelle& c, Piattaforma& piattaforma) {
-  const std::vector<std::string> elenco = {
-      c.impostazioni, c.progra, c.driver, c.custom, c.Help, c.Manuali, c.temp,
-      Unisci(c.custom, "archivi"), Unisci(c.custom, "simboli"), Unisci(c.lavori, c.lavoro)};
+  const std::vector<std::string> elenco = {c.impostazioni,
+                                           c.progra,
+                                           c.driver,
+                                           c.custom,
+                                           c.Help,
+                                           c.Manuali,
+                                           c.temp,
+                                           Unisci(c.custom, "archivi"),
+                                           Unisci(c.custom, "simboli"),
+                                           Unisci(c.lavori, c.lavoro)};
   bool tutte = c.DirRoot.size() >= 3;
   for (const auto& cartella : elenco) {
     std::error_code ec;

@@ -21,8 +21,8 @@ inline constexpr const char* kVociEsposizione[] = {"Esposto a fenomeni corrosivi
 // Finds the installation's folders from the launch command line (its "|diroot=...|" field) or
 // from the program's own folder, which must be the installation's progra folder. Any failure
 // shows its message as a critical box and throws FineProgramma.
-Cartelle ImpostaCartelle(std::string_view rigaComando, const std::filesystem::path& cartellaProgramma,
-                         Piattaforma& piattaforma);
+Cartelle ImpostaCartelle(std::string_view rigaComando,
+                         const std::filesystem::path& cartellaProgramma, Piattaforma& piattaforma);
 
 // The main window's title for the job folder and the node's base name.
 std::string ImpostaTitolo(std::string_view dirLavoro, std::string_view nomeNodo);

@@ -51,8 +51,8 @@ bool ValoreDaTestata(std::string_view testo, std::string_view chiave, std::strin
   }
   std::string k(chiave);
   if (k.empty() || k.front() != '|') k.insert(0, "|");
-  if (k.size() < separatore.size() || k.compare(k.size() - separatore.size(), separatore.size(),
-                                                separatore) != 0) {
+  if (k.size() < separatore.size() ||
+      k.compare(k.size() - separatore.size(), separatore.size(), separatore) != 0) {
     k += separatore;
   }
   t = Rifila(t);
@@ -67,8 +67,9 @@ bool ValoreDaTestata(std::string_view testo, std::string_view chiave, std::strin
 }
 
 std::string TestataRelease(std::string_view descrizione, int releaseFile) {
-  return "KORVINWIN [QuestoProgramma=" + std::string(kTitoloFamiglia) + "] [Descrizione=" +
-         std::string(descrizione) + "] [ReleaseKorvin=" + std::to_string(kReleaseFamiglia) +
+  return "KORVINWIN [QuestoProgramma=" + std::string(kTitoloFamiglia) +
+         "] [Descrizione=" + std::string(descrizione) +
+         "] [ReleaseKorvin=" + std::to_string(kReleaseFamiglia) +
          "] [ReleaseQuestoFile=" + std::to_string(releaseFile) + "]";
 }
 

@@ -12,7 +12,9 @@ namespace {
 
 constexpr double kGradiPerRadiante = 180 / 3.14159265358979;
 
-std::string N(double v) { return TestoNumero(v); }
+std::string N(double v) {
+  return TestoNumero(v);
+}
 
 std::string TipoSezione(const Profilo& p) {
   switch (static_cast<TipoProfilo>(p.Tipo)) {
@@ -42,11 +44,10 @@ void Sezione(std::ostringstream& o, const Profilo& p) {
 void ScriviAste(std::ostringstream& o, const Nodo& n) {
   for (int i = 1; i <= kMaxAste; ++i) {
     o << "Asta " << LetteraAsta(i) << ": " << n.Aste[i].Nome
-      << (n.Ast_flag[i] == 1 ? "" : "  (assente)") << "  " << ParolaModo(n.Ast_modo[i])
-      << "  lato " << n.Ast_lato[i] << "  teta " << N(n.Ast_teta[i] * kGradiPerRadiante)
-      << "°  coeff. Beff " << N(n.Ast_coeff[i]) << "  inserimento " << N(n.Ast_ins[i])
-      << " mm  Sld_L " << N(n.Saldature(i, 1).Sld_L) << " / " << N(n.Saldature(i, 2).Sld_L)
-      << " mm\n";
+      << (n.Ast_flag[i] == 1 ? "" : "  (assente)") << "  " << ParolaModo(n.Ast_modo[i]) << "  lato "
+      << n.Ast_lato[i] << "  teta " << N(n.Ast_teta[i] * kGradiPerRadiante) << "°  coeff. Beff "
+      << N(n.Ast_coeff[i]) << "  inserimento " << N(n.Ast_ins[i]) << " mm  Sld_L "
+      << N(n.Saldature(i, 1).Sld_L) << " / " << N(n.Saldature(i, 2).Sld_L) << " mm\n";
     Sezione(o, n.Aste[i]);
   }
 }
@@ -80,8 +81,8 @@ void ScriviSollecitazioni(std::ostringstream& o, const Nodo& n) {
   o << "Sollecitazioni [daN]: " << n.nSollAg << "\n";
   for (int j = 1; j <= n.nSollAg; ++j) {
     o << "    " << j << "  A " << N(n.SforzoNormale(1, j)) << "  B " << N(n.SforzoNormale(2, j))
-      << "  C " << N(n.SforzoNormale(3, j)) << (n.CasoCarico[j] == 1 ? "  C.c. II" : "")
-      << "  " << n.NomeSa[j] << "\n";
+      << "  C " << N(n.SforzoNormale(3, j)) << (n.CasoCarico[j] == 1 ? "  C.c. II" : "") << "  "
+      << n.NomeSa[j] << "\n";
   }
   if (n.NumNodi > 0) {
     o << "Nodi del modello:";
@@ -99,8 +100,7 @@ std::string DescrizioneNodo(const Sessione& s) {
     << "Verifica: "
     << (n.TipoVer == 1 ? "stati limite NTC 2008 (SLU)" : "tensioni ammissibili CNR 10011/88 (TA)")
     << "\n"
-    << "Corrente D: " << n.Corrente.Nome << "  teta " << N(n.Cor_teta * kGradiPerRadiante)
-    << "°\n";
+    << "Corrente D: " << n.Corrente.Nome << "  teta " << N(n.Cor_teta * kGradiPerRadiante) << "°\n";
   Sezione(o, n.Corrente);
   ScriviAste(o, n);
   o << "Fazzoletto: a " << N(n.Fz_a) << "  b " << N(n.Fz_b) << "  c " << N(n.Fz_c) << "  d "

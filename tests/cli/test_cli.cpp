@@ -29,9 +29,8 @@ class RigaDiComando : public ::testing::Test {
  protected:
   void SetUp() override {
     cartella_ = fs::temp_directory_path() /
-                ("qf17-cli-" + std::string(::testing::UnitTest::GetInstance()
-                                               ->current_test_info()
-                                               ->name()));
+                ("qf17-cli-" +
+                 std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
     fs::remove_all(cartella_);
     fs::create_directories(cartella_);
   }

@@ -82,14 +82,15 @@ TEST_F(Avvio_, FallimentiCheFermanoIlProgramma) {
        "QF17"},
       {"dirlav non lavori",
        [](Avvio_& t) { t.Scrivi("impostazioni/dirlav", (t.radice_ / "lavoro").string()); },
-       [](Avvio_&) { return std::string("Il direttorio dei lavori deve terminare con < ...\\lavori >."); },
+       [](Avvio_&) {
+         return std::string("Il direttorio dei lavori deve terminare con < ...\\lavori >.");
+       },
        "QF17"},
       {"font mancante", [](Avvio_& t) { fs::remove(t.radice_ / "progra/font.001"); },
        [](Avvio_&) { return std::string("Errore: file font.001 errato o mancante."); }, "ERRORE"},
       {"profilario mancante", [](Avvio_& t) { fs::remove(t.radice_ / "custom/Prof_pro"); },
        [](Avvio_&) { return std::string("Profilario errato o mancante"); }, "ERRORE"},
-      {"materiali mancanti",
-       [](Avvio_& t) { fs::remove(t.radice_ / "custom/MaterialiNTC08.tx1"); },
+      {"materiali mancanti", [](Avvio_& t) { fs::remove(t.radice_ / "custom/MaterialiNTC08.tx1"); },
        [](Avvio_& t) {
          return "File materiali (" + t.Cartella("custom/MaterialiNTC08.tx1") +
                 ") non trovato o non valido";
