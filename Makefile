@@ -7,15 +7,30 @@ FUZZ_SECONDI ?= 60
 JOBS ?= 2
 
 PACCHETTI = cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev \
-            libcli11-dev nlohmann-json3-dev hershey-fonts-data clang libclang-rt-14-dev
+            libcli11-dev nlohmann-json3-dev hershey-fonts-data locales
+PACCHETTI_FUZZ = clang libclang-rt-14-dev
 
-.PHONY: all dipendenze build test demo fuzz clean
+.PHONY: all dipendenze dipendenze-fuzz locale-it installa build test demo fuzz clean
 
 all: build
 
 dipendenze:
+	@$(MAKE) --no-print-directory installa LISTA="$(PACCHETTI)"
+	@$(MAKE) --no-print-directory locale-it
+
+dipendenze-fuzz: dipendenze
+	@$(MAKE) --no-print-directory installa LISTA="$(PACCHETTI_FUZZ)"
+
+# The tests check that an Italian desktop (decimal comma) does not leak into files and reports.
+locale-it:
+	@locale -a 2>/dev/null | grep -qi '^it_IT.utf-\?8$$' || { \
+	  sed -i 's/^# *it_IT.UTF-8 UTF-8/it_IT.UTF-8 UTF-8/' /etc/locale.gen; \
+	  grep -q '^it_IT.UTF-8 UTF-8' /etc/locale.gen || echo 'it_IT.UTF-8 UTF-8' >> /etc/locale.gen; \
+	  locale-gen >/dev/null; }
+
+installa:
 	@mancanti=""; \
-	for p in $(PACCHETTI); do dpkg -s $$p >/dev/null 2>&1 || mancanti="$$mancanti $$p"; done; \
+	for p in $(LISTA); do dpkg -s $$p >/dev/null 2>&1 || mancanti="$$mancanti $$p"; done; \
 	if [ -n "$$mancanti" ]; then \
 	  echo "Installing:$$mancanti"; \
 	  apt-get update && DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends $$mancanti; \
@@ -33,7 +48,7 @@ test: build
 demo: build
 	./tools/demo.sh $(BUILD)
 
-fuzz: dipendenze
+fuzz: dipendenze-fuzz
 	cmake -S . -B $(BUILD_FUZZ) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
 	  -DCMAKE_CXX_COMPILER=clang++ -DQF17_TESTS=OFF -DQF17_FUZZ=ON
 	cmake --build $(BUILD_FUZZ) -j $(JOBS)
