@@ -3,13 +3,14 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
+
+#include "supporto/cartella_prova.h"
 
 namespace {
 
 namespace fs = std::filesystem;
+using qf17::prova::LeggiTutto;
 
 struct Esito {
   int stato = -1;
@@ -17,37 +18,22 @@ struct Esito {
   std::string errori;
 };
 
-std::string Leggi(const fs::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  std::ostringstream o;
-  o << in.rdbuf();
-  return o.str();
-}
-
 // Runs the staged program of the sample installation with the given arguments.
 class RigaDiComando : public ::testing::Test {
  protected:
-  void SetUp() override {
-    cartella_ = fs::temp_directory_path() /
-                ("qf17-cli-" +
-                 std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::remove_all(cartella_);
-    fs::create_directories(cartella_);
-  }
-  void TearDown() override { fs::remove_all(cartella_); }
-
   Esito Esegui(const std::string& argomenti, const std::string& programma = QF17_PROGRAMMA_STAGED) {
     const fs::path out = cartella_ / "out.txt", err = cartella_ / "err.txt";
     std::string comando = "cd '" + cartella_.string() + "' && '" + programma + "' " + argomenti +
                           " >'" + out.string() + "' 2>'" + err.string() + "'";
     int s = std::system(comando.c_str());
-    return {WIFEXITED(s) ? WEXITSTATUS(s) : -1, Leggi(out), Leggi(err)};
+    return {WIFEXITED(s) ? WEXITSTATUS(s) : -1, LeggiTutto(out), LeggiTutto(err)};
   }
   std::string Esempio(const std::string& nome) const {
     return std::string(QF17_INSTALLAZIONE) + "/lavori/esempi/" + nome;
   }
 
-  fs::path cartella_;
+  qf17::prova::CartellaProva spazio_;
+  const fs::path cartella_ = spazio_.percorso();
 };
 
 TEST_F(RigaDiComando, NodoStampaIlNodoCercandoloNellaCartellaDelLavoro) {
@@ -63,7 +49,7 @@ TEST_F(RigaDiComando, ConvertiUnFileVecchioNelFormatoAChiavi) {
   const fs::path nuovo = cartella_ / "nuovo.qf7";
   Esito e = Esegui("converti '" + Esempio("VECCHIO2.qf7") + "' -o '" + nuovo.string() + "'");
   ASSERT_EQ(e.stato, 0) << e.errori;
-  const std::string testo = Leggi(nuovo);
+  const std::string testo = LeggiTutto(nuovo);
   EXPECT_EQ(testo.rfind("KORVINWIN [QuestoProgramma=QF17 - NODO DI TRAVATURA RETICOLARE] "
                         "[Descrizione=file_QF17] [ReleaseKorvin=18] [ReleaseQuestoFile=1]\r\n",
                         0),
@@ -72,7 +58,7 @@ TEST_F(RigaDiComando, ConvertiUnFileVecchioNelFormatoAChiavi) {
   // The converted file opens again and gives the same file.
   const fs::path ancora = cartella_ / "ancora.qf7";
   ASSERT_EQ(Esegui("converti '" + nuovo.string() + "' -o '" + ancora.string() + "'").stato, 0);
-  std::string a = Leggi(ancora), b = testo;
+  std::string a = LeggiTutto(ancora), b = testo;
   // Only the save time may differ.
   auto senzaData = [](std::string t) {
     auto p = t.find("[dataSalvataggio]");
@@ -89,12 +75,12 @@ TEST_F(RigaDiComando, ErroriConStato2ENienteScritto) {
   EXPECT_NE(e.errori.find("LETTURA"), std::string::npos) << e.errori;
 
   // A bolt index beyond the table is an error, and the output file is not created.
-  const fs::path rotto = cartella_ / "rotto.qf7";
-  std::ofstream(rotto, std::ios::binary)
-      << "KORVINWIN [QuestoProgramma=QF17 - NODO DI TRAVATURA RETICOLARE] "
-         "[Descrizione=file_QF17] [ReleaseKorvin=18] [ReleaseQuestoFile=1]\r\n"
-         "UPN200                                  [Cor_Nome]\r\n"
-         "12                                      [xBull 2 2001]\r\n";
+  const fs::path rotto =
+      spazio_.Scrivi("rotto.qf7",
+                     "KORVINWIN [QuestoProgramma=QF17 - NODO DI TRAVATURA RETICOLARE] "
+                     "[Descrizione=file_QF17] [ReleaseKorvin=18] [ReleaseQuestoFile=1]\r\n"
+                     "UPN200                                  [Cor_Nome]\r\n"
+                     "12                                      [xBull 2 2001]\r\n");
   e = Esegui("converti '" + rotto.string() + "' -o '" + (cartella_ / "x.qf7").string() + "'");
   EXPECT_EQ(e.stato, 2);
   EXPECT_NE(e.errori.find("2001"), std::string::npos) << e.errori;

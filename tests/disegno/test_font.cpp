@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <numbers>
 #include <string>
@@ -11,6 +10,7 @@
 
 #include "disegno/leggi_font.h"
 #include "disegno/tratti_testo.h"
+#include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
@@ -19,22 +19,12 @@ namespace fs = std::filesystem;
 
 class FontTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    cartella_ = fs::temp_directory_path() /
-                ("qf17-font-" +
-                 std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::create_directories(cartella_);
-    font_ = std::make_unique<FontTratti>();
-  }
-  void TearDown() override { fs::remove_all(cartella_); }
+  void SetUp() override { font_ = std::make_unique<FontTratti>(); }
 
-  fs::path Scrivi(const std::string& byte) {
-    fs::path p = cartella_ / "font.001";
-    std::ofstream(p, std::ios::binary) << byte;
-    return p;
-  }
+  fs::path Scrivi(const std::string& byte) { return spazio_.Scrivi("font.001", byte); }
 
-  fs::path cartella_;
+  prova::CartellaProva spazio_;
+  const fs::path cartella_ = spazio_.percorso();
   std::unique_ptr<FontTratti> font_;
 };
 

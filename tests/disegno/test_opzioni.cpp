@@ -1,13 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "disegno/file_opzioni.h"
 #include "disegno/opzioni.h"
 #include "piattaforma/errori.h"
+#include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
@@ -16,27 +15,10 @@ namespace fs = std::filesystem;
 
 class OpzioniTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    cartella_ = fs::temp_directory_path() /
-                ("qf17-opzioni-" +
-                 std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::create_directories(cartella_);
-  }
-  void TearDown() override { fs::remove_all(cartella_); }
+  fs::path Scrivi(const std::string& byte) { return spazio_.Scrivi("OpzioniQf7.txt", byte); }
 
-  fs::path Scrivi(const std::string& byte) {
-    fs::path p = cartella_ / "OpzioniQf7.txt";
-    std::ofstream(p, std::ios::binary) << byte;
-    return p;
-  }
-  static std::string Byte(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-  }
-
-  fs::path cartella_;
+  prova::CartellaProva spazio_;
+  const fs::path cartella_ = spazio_.percorso();
 };
 
 // Thirty numbers given as text, one a line, then the note.
@@ -57,8 +39,8 @@ TEST_F(OpzioniTest, PredefiniteEFileDellInstallazione) {
   const fs::path scritto = cartella_ / "scritto.txt";
   ASSERT_TRUE(ScriviOpzioni(o, scritto));
   const std::string campione =
-      Byte(fs::path(QF17_SORGENTI) / "installazione" / "custom" / "OpzioniQf7.txt");
-  EXPECT_EQ(Byte(scritto), campione);
+      prova::LeggiTutto(fs::path(QF17_SORGENTI) / "installazione" / "custom" / "OpzioniQf7.txt");
+  EXPECT_EQ(prova::LeggiTutto(scritto), campione);
   EXPECT_EQ(campione.substr(0, 10), " 1 \r\n 2 \r\n");
   EXPECT_NE(campione.find(" 0.5 \r\n 0 \r\n"), std::string::npos);
   EXPECT_NE(campione.find("non \xE8 conteggiata alcuna tolleranza\r\n"), std::string::npos);
@@ -76,8 +58,8 @@ TEST_F(OpzioniTest, ScritturaELetturaDanLaStessaTabella) {
   ASSERT_TRUE(LeggiOpzioni(letto, file));
   for (int i = 0; i < 30; ++i) EXPECT_EQ(letto[i], o[i]) << i;
   EXPECT_EQ(letto.NotaDisegno, o.NotaDisegno);
-  EXPECT_NE(Byte(file).find("-0.5 \r\n"), std::string::npos);
-  EXPECT_NE(Byte(file).find(" 12.75 \r\n"), std::string::npos);
+  EXPECT_NE(prova::LeggiTutto(file).find("-0.5 \r\n"), std::string::npos);
+  EXPECT_NE(prova::LeggiTutto(file).find(" 12.75 \r\n"), std::string::npos);
 }
 
 TEST_F(OpzioniTest, VentidueFissaEDiciassetteCopiaTredici) {

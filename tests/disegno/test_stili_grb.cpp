@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "disegno/leggi_stili_grb.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
@@ -16,21 +16,10 @@ const std::string kCoda = "- verranno usati i parametri disegno della versione a
 
 class StiliGRBTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    cartella_ = fs::temp_directory_path() /
-                ("qf17-stili-" +
-                 std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::create_directories(cartella_);
-  }
-  void TearDown() override { fs::remove_all(cartella_); }
+  fs::path Scrivi(const std::string& testo) { return spazio_.Scrivi("cad2dmodello.grb", testo); }
 
-  fs::path Scrivi(const std::string& testo) {
-    fs::path p = cartella_ / "cad2dmodello.grb";
-    std::ofstream(p, std::ios::binary) << testo;
-    return p;
-  }
-
-  fs::path cartella_;
+  prova::CartellaProva spazio_;
+  const fs::path cartella_ = spazio_.percorso();
   PiattaformaRegistrata piattaforma_;
   StiliGRB stili_;
 };

@@ -2,10 +2,10 @@
 
 #include <array>
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "librerie/materiali.h"
+#include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
@@ -15,22 +15,6 @@ namespace fs = std::filesystem;
 const fs::path kDati = fs::path(QF17_DATI_TEST) / "librerie" / "dati" / "materiali";
 const fs::path kCampione =
     fs::path(QF17_SORGENTI) / "installazione" / "custom" / "MaterialiNTC08.tx1";
-
-class CartellaTemporanea {
- public:
-  CartellaTemporanea() : percorso_(fs::temp_directory_path() / "qf17-test-materiali-file") {
-    fs::remove_all(percorso_);
-    fs::create_directories(percorso_);
-  }
-  ~CartellaTemporanea() { fs::remove_all(percorso_); }
-  fs::path Scrivi(const std::string& nome, const std::string& contenuto) const {
-    std::ofstream(percorso_ / nome, std::ios::binary) << contenuto;
-    return percorso_ / nome;
-  }
-
- private:
-  fs::path percorso_;
-};
 
 void AttesoAcciaio(const Acciaio& a, const char* nome, double SAmm, double SAmm40, double fy,
                    double ft, double fy40, double ft40) {
@@ -122,7 +106,7 @@ TEST(MaterialiFile, OgniTabella) {
 }
 
 TEST(MaterialiFile, SeiValoriNonSonoVecchi) {
-  CartellaTemporanea t;
+  prova::CartellaProva t;
   auto file = t.Scrivi("m.tx1",
                        "[ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE]\r\n0\r\n[VITI]\r\n0\r\n"
                        "[ACCIAIO_DA_CA]\r\n1\r\nB450C\r\n1 2 3 4 5 6\r\n");
@@ -136,7 +120,7 @@ TEST(MaterialiFile, CinquantaRigheSiLeggono) {
   std::string testo = "[ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE]\n50\n";
   for (int i = 1; i <= 50; ++i) testo += "A" + std::to_string(i) + "\nN\n1 1 1 1 1 1 1 1\n";
   testo += "[VITI]\n0\n";
-  CartellaTemporanea t;
+  prova::CartellaProva t;
   Materiali m;
   EXPECT_EQ(LeggiMateriali(m, t.Scrivi("m.tx1", testo)).errore, "");
   EXPECT_EQ(m.NumAcciai, 50);
@@ -164,7 +148,7 @@ TEST(MaterialiFile, FileNonValido) {
       {"conteggio fuori scala", acciai + "[VITI]\n1e999\n"},
       {"vuoto", ""},
   };
-  CartellaTemporanea t;
+  prova::CartellaProva t;
   for (const Caso& c : casi) {
     SCOPED_TRACE(c.nome);
     Materiali m;

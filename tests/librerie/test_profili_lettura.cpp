@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -8,6 +7,7 @@
 #include "librerie/libreria_profili.h"
 #include "piattaforma/file_testo.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
@@ -26,13 +26,6 @@ std::string RigaIPE(const std::string& misura, const std::string& area = "7.64")
 
 class LetturaProfili : public ::testing::Test {
  protected:
-  void SetUp() override {
-    cartella_ = fs::temp_directory_path() /
-                ("qf17-profili-" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
-    fs::create_directories(cartella_);
-  }
-  void TearDown() override { fs::remove_all(cartella_); }
-
   fs::path Scrivi(const std::vector<std::string>& righe) {
     std::string contenuto;
     for (const auto& r : righe) AggiungiRiga(contenuto, r);
@@ -41,7 +34,8 @@ class LetturaProfili : public ::testing::Test {
     return file;
   }
 
-  fs::path cartella_;
+  prova::CartellaProva spazio_;
+  const fs::path cartella_ = spazio_.percorso();
   LibreriaProfili lib_;
 };
 

@@ -1,14 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "librerie/unita_lavoro.h"
 #include "nodo/sessione.h"
 #include "piattaforma/file_testo.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
@@ -113,10 +112,6 @@ TEST(UnitaLavoro, MomentiECarichi) {
 class UnitaLavoroFile : public ::testing::Test {
  protected:
   void SetUp() override {
-    cartella_ = fs::temp_directory_path() /
-                ("qf17-unita-" +
-                 std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::remove_all(cartella_);
     fs::create_directories(cartella_ / "lavori" / "prova1");
     fs::create_directories(cartella_ / "progra");
     fs::create_directories(cartella_ / "temp");
@@ -124,8 +119,6 @@ class UnitaLavoroFile : public ::testing::Test {
     sessione_.cartelle.progra = (cartella_ / "progra").string();
     sessione_.cartelle.temp = (cartella_ / "temp").string();
   }
-  void TearDown() override { fs::remove_all(cartella_); }
-
   fs::path FileParametri() const { return cartella_ / "lavori" / "prova1" / "parametrilavoro"; }
 
   void ScriviParametri(std::initializer_list<const char*> righe) {
@@ -134,17 +127,15 @@ class UnitaLavoroFile : public ::testing::Test {
     ASSERT_TRUE(ScriviFileSicuro(FileParametri(), contenuto));
   }
 
-  fs::path cartella_;
+  prova::CartellaProva spazio_;
+  const fs::path cartella_ = spazio_.percorso();
   PiattaformaRegistrata piattaforma_;
   Sessione sessione_{piattaforma_};
 };
 
 TEST_F(UnitaLavoroFile, FileDiEsempioDellInstallazione) {
   const fs::path esempi = fs::path(QF17_SORGENTI) / "installazione" / "lavori" / "esempi";
-  std::ifstream in(esempi / "parametrilavoro", std::ios::binary);
-  std::ostringstream byte;
-  byte << in.rdbuf();
-  const std::string b = byte.str();
+  const std::string b = prova::LeggiTutto(esempi / "parametrilavoro");
   ASSERT_FALSE(b.empty());
   EXPECT_NE(b.find("gravit\xE0"), std::string::npos);  // Windows-1252
   for (std::size_t i = 0; i < b.size(); ++i) {

@@ -1,7 +1,6 @@
 #include "esempi_nodo.h"
 
 #include <cmath>
-#include <ctime>
 #include <initializer_list>
 #include <utility>
 
@@ -9,6 +8,7 @@
 #include "librerie/materiali.h"
 #include "librerie/numeri.h"
 #include "nodo/nodo_default.h"
+#include "sessione_prova.h"
 
 namespace qf17::prova {
 namespace {
@@ -263,14 +263,7 @@ std::vector<EsempioNodo> EsempiNodo(Sessione& sessione) {
 }
 
 std::chrono::system_clock::time_point OraEsempi() {
-  std::tm ora{};
-  ora.tm_year = 2024 - 1900;
-  ora.tm_mon = 4;
-  ora.tm_mday = 14;
-  ora.tm_hour = 10;
-  ora.tm_min = 30;
-  ora.tm_isdst = -1;
-  return std::chrono::system_clock::from_time_t(std::mktime(&ora));
+  return OraLocale(2024, 5, 14, 10, 30);
 }
 
 bool CaricaLibrerieInstallazione(Sessione& sessione) {

@@ -1,10 +1,6 @@
 #include "sessione_prova.h"
 
-#include <unistd.h>
-
-#include <atomic>
-#include <fstream>
-#include <sstream>
+#include <ctime>
 
 namespace qf17::prova {
 namespace {
@@ -85,34 +81,21 @@ void RiempiMaterialiProva(Materiali& m) {
 }
 
 SessioneProva::SessioneProva() {
-  static std::atomic<int> contatore{0};
-  cartella = std::filesystem::temp_directory_path() /
-             ("qf17-nodo-" + std::to_string(::getpid()) + "-" + std::to_string(++contatore));
-  std::filesystem::remove_all(cartella);
-  std::filesystem::create_directories(cartella);
   RiempiProfiliProva(sessione.profili);
   RiempiMaterialiProva(sessione.materiali);
   sessione.nodo.DirLavoro = cartella.string();
 }
 
-SessioneProva::~SessioneProva() {
-  std::error_code ec;
-  std::filesystem::remove_all(cartella, ec);
-}
-
-std::filesystem::path SessioneProva::ScriviFile(const std::string& nome,
-                                                const std::string& byte) const {
-  auto f = cartella / nome;
-  std::ofstream(f, std::ios::binary | std::ios::trunc) << byte;
-  return f;
-}
-
-std::string ContenutoFile(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) return "<manca>";
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
+std::chrono::system_clock::time_point OraLocale(int anno, int mese, int giorno, int ora,
+                                                int minuto) {
+  std::tm t{};
+  t.tm_year = anno - 1900;
+  t.tm_mon = mese - 1;
+  t.tm_mday = giorno;
+  t.tm_hour = ora;
+  t.tm_min = minuto;
+  t.tm_isdst = -1;
+  return std::chrono::system_clock::from_time_t(std::mktime(&t));
 }
 
 std::filesystem::path DatoProva(const std::string& nome) {

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <string>
 
@@ -9,6 +8,7 @@
 #include "nodo/sessione.h"
 #include "piattaforma/errori.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
@@ -19,9 +19,6 @@ namespace fs = std::filesystem;
 class Avvio_ : public ::testing::Test {
  public:
   void SetUp() override {
-    radice_ = fs::temp_directory_path() /
-              ("qf17-avvio-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-               "-" + ::testing::UnitTest::GetInstance()->current_test_info()->name());
     fs::remove_all(radice_);
     fs::copy(QF17_INSTALLAZIONE, radice_, fs::copy_options::recursive);
     Scrivi("impostazioni/dirlav", (radice_ / "lavori").string() + "\r\n");
@@ -29,7 +26,7 @@ class Avvio_ : public ::testing::Test {
   void TearDown() override { fs::remove_all(radice_); }
 
   void Scrivi(const std::string& relativo, const std::string& testo) {
-    std::ofstream(radice_ / relativo, std::ios::binary | std::ios::trunc) << testo;
+    spazio_.Scrivi(relativo, testo);
   }
   std::string Cartella(const std::string& relativo) const { return (radice_ / relativo).string(); }
 
@@ -46,7 +43,8 @@ class Avvio_ : public ::testing::Test {
     return piattaforma_.messaggi.back();
   }
 
-  fs::path radice_;
+  prova::CartellaProva spazio_;
+  const fs::path radice_ = spazio_.percorso();
   PiattaformaRegistrata piattaforma_;
   Sessione sessione_{piattaforma_};
 };

@@ -1,14 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <ctime>
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "nodo/chiavi.h"
 #include "piattaforma/errori.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "sessione_prova.h"
+#include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
@@ -136,20 +135,10 @@ TEST(Chiavi, TestataRelease) {
 
 class ReleaseSuFile : public ::testing::Test {
  protected:
-  void SetUp() override {
-    cartella_ =
-        std::filesystem::temp_directory_path() /
-        ("qf17-chiavi-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-         ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    std::filesystem::create_directories(cartella_);
-  }
-  void TearDown() override { std::filesystem::remove_all(cartella_); }
   std::filesystem::path File(const std::string& prima) {
-    auto f = cartella_ / "f.txt";
-    std::ofstream(f, std::ios::binary) << prima << "\r\nresto\r\n";
-    return f;
+    return cartella_.Scrivi("f.txt", prima + "\r\nresto\r\n");
   }
-  std::filesystem::path cartella_;
+  prova::CartellaProva cartella_;
   PiattaformaRegistrata piattaforma_;
 };
 
@@ -171,7 +160,7 @@ TEST_F(ReleaseSuFile, LaChiaveVecchiaPrevale) {
 }
 
 TEST_F(ReleaseSuFile, FileIlleggibile) {
-  const auto mancante = cartella_ / "manca.qf7";
+  const auto mancante = cartella_.percorso() / "manca.qf7";
   EXPECT_FALSE(LeggiRelease(mancante, piattaforma_, false).ok);
   EXPECT_TRUE(piattaforma_.messaggi.empty());
   EXPECT_FALSE(LeggiRelease(mancante, piattaforma_, true).ok);
@@ -191,15 +180,7 @@ TEST(Chiavi, NomiDiFileESostituzioni) {
 }
 
 TEST(Chiavi, DataOraSalvataggio) {
-  std::tm ora{};
-  ora.tm_year = 2024 - 1900;
-  ora.tm_mon = 2;
-  ora.tm_mday = 5;
-  ora.tm_hour = 9;
-  ora.tm_min = 7;
-  ora.tm_isdst = -1;
-  auto istante = std::chrono::system_clock::from_time_t(std::mktime(&ora));
-  EXPECT_EQ(DataOraSalvataggio(istante), "2024_03_05_09_07");
+  EXPECT_EQ(DataOraSalvataggio(prova::OraLocale(2024, 3, 5, 9, 7)), "2024_03_05_09_07");
 }
 
 }  // namespace

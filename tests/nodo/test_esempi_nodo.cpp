@@ -6,12 +6,13 @@
 #include "esempi_nodo.h"
 #include "nodo/file_nodo.h"
 #include "sessione_prova.h"
+#include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
 
 using prova::CartellaEsempi;
-using prova::ContenutoFile;
+using prova::LeggiTutto;
 
 class EsempiNodo : public ::testing::Test {
  protected:
@@ -33,16 +34,16 @@ TEST_F(EsempiNodo, DISABLED_Rigenera) {
 }
 
 TEST_F(EsempiNodo, SiApronoSenzaMessaggiESiRiscrivonoUguali) {
+  prova::CartellaProva cartella;
   for (const auto& e : esempi_) {
     PiattaformaRegistrata p;
     Sessione s{p};
     ASSERT_TRUE(prova::CaricaLibrerieInstallazione(s));
     ASSERT_TRUE(ApriNodoDaFile(s, CartellaEsempi() / e.file)) << e.file;
     EXPECT_TRUE(p.messaggi.empty()) << e.file << ": " << p.messaggi[0].testo;
-    const auto copia = std::filesystem::temp_directory_path() / ("qf17-esempio-" + e.file);
+    const auto copia = cartella.percorso() / e.file;
     ASSERT_TRUE(ScriviNodo(s.nodo, copia, p, prova::OraEsempi()));
-    EXPECT_EQ(ContenutoFile(copia), ContenutoFile(CartellaEsempi() / e.file)) << e.file;
-    std::filesystem::remove(copia);
+    EXPECT_EQ(LeggiTutto(copia), LeggiTutto(CartellaEsempi() / e.file)) << e.file;
   }
 }
 

@@ -1,34 +1,18 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <ctime>
 #include <string>
 
 #include "nodo/file_nodo.h"
 #include "piattaforma/errori.h"
 #include "sessione_prova.h"
 
-namespace qf17 {
+namespace qf17::prova {
 namespace {
 
-using prova::ContenutoFile;
-using prova::DatoProva;
-using prova::SessioneProva;
-
 std::chrono::system_clock::time_point OraFissa() {
-  std::tm ora{};
-  ora.tm_year = 2024 - 1900;
-  ora.tm_mon = 2;
-  ora.tm_mday = 5;
-  ora.tm_hour = 9;
-  ora.tm_min = 7;
-  ora.tm_isdst = -1;
-  return std::chrono::system_clock::from_time_t(std::mktime(&ora));
+  return OraLocale(2024, 3, 5, 9, 7);
 }
-
-const std::string kTestata =
-    "KORVINWIN [QuestoProgramma=QF17 - NODO DI TRAVATURA RETICOLARE] [Descrizione=file_QF17] "
-    "[ReleaseKorvin=18] [ReleaseQuestoFile=1]\r\n";
 
 // The node of the golden file nodo_piccolo.qf7, set field by field.
 void NodoPiccolo(Nodo& n) {
@@ -83,7 +67,7 @@ TEST(FileNodo, ScritturaIdenticaAlFileDiRiferimento) {
   NodoPiccolo(s.sessione.nodo);
   const auto file = s.cartella / "piccolo.qf7";
   ASSERT_TRUE(ScriviNodo(s.sessione.nodo, file, s.piattaforma, OraFissa()));
-  EXPECT_EQ(ContenutoFile(file), ContenutoFile(DatoProva("nodo_piccolo.qf7")));
+  EXPECT_EQ(LeggiTutto(file), LeggiTutto(DatoProva("nodo_piccolo.qf7")));
   EXPECT_TRUE(s.piattaforma.messaggi.empty());
 }
 
@@ -122,7 +106,7 @@ TEST(FileNodo, SalvaCaricaSalvaIdentico) {
   EXPECT_EQ(s.sessione.nodo.NomeFileNodo, "nodo_piccolo");
   const auto file = s.cartella / "di_nuovo.qf7";
   ASSERT_TRUE(ScriviNodo(s.sessione.nodo, file, s.piattaforma, OraFissa()));
-  EXPECT_EQ(ContenutoFile(file), ContenutoFile(DatoProva("nodo_piccolo.qf7")));
+  EXPECT_EQ(LeggiTutto(file), LeggiTutto(DatoProva("nodo_piccolo.qf7")));
 }
 
 // Reads the given lines (after the header) into a node that already holds the golden node.
@@ -130,7 +114,7 @@ class LetturaChiavi : public ::testing::Test {
  protected:
   void SetUp() override { NodoPiccolo(nodo_); }
   bool Leggi(const std::string& righe) {
-    return LeggiNodo(nodo_, s_.ScriviFile("prova.qf7", kTestata + righe), s_.piattaforma);
+    return LeggiNodo(nodo_, s_.ScriviFile("prova.qf7", kTestataNodo + righe), s_.piattaforma);
   }
   SessioneProva s_;
   Nodo nodo_;
@@ -222,7 +206,7 @@ TEST_F(LetturaChiavi, LaRigaUnoNonELetta) {
 }
 
 TEST_F(LetturaChiavi, FileTroncato) {
-  std::string intero = ContenutoFile(DatoProva("nodo_piccolo.qf7"));
+  std::string intero = LeggiTutto(DatoProva("nodo_piccolo.qf7"));
   const std::size_t taglio = intero.find("[Fz_b]") - 20;
   Nodo n;
   const auto f = s_.ScriviFile("troncato.qf7", intero.substr(0, taglio));
@@ -244,4 +228,4 @@ TEST_F(LetturaChiavi, FileIlleggibile) {
 }
 
 }  // namespace
-}  // namespace qf17
+}  // namespace qf17::prova

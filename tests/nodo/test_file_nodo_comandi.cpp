@@ -7,16 +7,8 @@
 #include "nodo/file_nodo.h"
 #include "sessione_prova.h"
 
-namespace qf17 {
+namespace qf17::prova {
 namespace {
-
-using prova::ContenutoFile;
-using prova::DatoProva;
-using prova::SessioneProva;
-
-const std::string kTestata =
-    "KORVINWIN [QuestoProgramma=QF17 - NODO DI TRAVATURA RETICOLARE] [Descrizione=file_QF17] "
-    "[ReleaseKorvin=18] [ReleaseQuestoFile=1]\r\n";
 
 TEST(ComandiNodo, ApriNodoAnnullato) {
   SessioneProva s;
@@ -67,7 +59,7 @@ TEST(ComandiNodo, ApriNodoFileMancante) {
 
 TEST(ComandiNodo, NomiAssentiNelleLibrerie) {
   SessioneProva s;
-  const auto f = s.ScriviFile("strano.qf7", kTestata +
+  const auto f = s.ScriviFile("strano.qf7", kTestataNodo +
                                                 "IPE999 [Cor_Nome]\r\n"
                                                 "S 999 [acciaio_Nome]\r\n"
                                                 "8.8 [vite_Nome]\r\n");
@@ -92,8 +84,8 @@ TEST(ComandiNodo, SalvaNodoNuovoVaNellaCartellaDelLavoro) {
   ASSERT_TRUE(SalvaNodo(s.sessione));
   EXPECT_TRUE(s.piattaforma.richiesteFile.empty());
   EXPECT_TRUE(s.piattaforma.messaggi.empty());
-  const std::string scritto = ContenutoFile(s.cartella / "Nuovo.qf7");
-  EXPECT_EQ(scritto.substr(0, kTestata.size()), kTestata);
+  const std::string scritto = LeggiTutto(s.cartella / "Nuovo.qf7");
+  EXPECT_EQ(scritto.substr(0, kTestataNodo.size()), kTestataNodo);
   EXPECT_EQ(s.sessione.nodo.NomeFileNodo, "Nuovo");
   EXPECT_EQ(NomeFileCorrente(s.sessione.nodo), "Nuovo.qf7");
 }
@@ -118,4 +110,4 @@ TEST(ComandiNodo, SalvaNodoCome) {
 }
 
 }  // namespace
-}  // namespace qf17
+}  // namespace qf17::prova

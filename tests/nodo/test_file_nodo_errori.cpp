@@ -7,22 +7,14 @@
 #include "piattaforma/errori.h"
 #include "sessione_prova.h"
 
-namespace qf17 {
+namespace qf17::prova {
 namespace {
-
-using prova::ContenutoFile;
-using prova::DatoProva;
-using prova::SessioneProva;
-
-const std::string kTestata =
-    "KORVINWIN [QuestoProgramma=QF17 - NODO DI TRAVATURA RETICOLARE] [Descrizione=file_QF17] "
-    "[ReleaseKorvin=18] [ReleaseQuestoFile=1]\r\n";
 
 // The whole node as the writer sees it: two equal dumps mean nothing the file holds changed.
 std::string Istantanea(SessioneProva& s) {
   const auto f = s.cartella / "istantanea.qf7";
   ScriviNodo(s.sessione.nodo, f, s.piattaforma, std::chrono::system_clock::time_point{});
-  return ContenutoFile(f);
+  return LeggiTutto(f);
 }
 
 TEST(FileNodoErrori, OgniErroreFataleLasciaIlNodoComEra) {
@@ -69,7 +61,7 @@ TEST(FileNodoErrori, OgniErroreFataleLasciaIlNodoComEra) {
     s.piattaforma.messaggi.clear();
     const std::string prima = Istantanea(s);
     // The bad line comes after a good one, so a half-read copy would differ.
-    const auto f = s.ScriviFile("rotto.qf7", kTestata + "99 [Fz_s]\r\n" + c.riga + "\r\n");
+    const auto f = s.ScriviFile("rotto.qf7", kTestataNodo + "99 [Fz_s]\r\n" + c.riga + "\r\n");
     try {
       ApriNodoDaFile(s.sessione, f);
       ADD_FAILURE() << "nessun errore per " << c.riga;
@@ -87,7 +79,7 @@ TEST(FileNodoErrori, OgniErroreFataleLasciaIlNodoComEra) {
 
 TEST(FileNodoErrori, IlTestoDellErrore) {
   SessioneProva s;
-  const auto f = s.ScriviFile("rotto.qf7", kTestata + "\r\n10  [xBull 1 2001]\r\n");
+  const auto f = s.ScriviFile("rotto.qf7", kTestataNodo + "\r\n10  [xBull 1 2001]\r\n");
   try {
     ApriNodoDaFile(s.sessione, f);
     FAIL();
@@ -101,7 +93,7 @@ TEST(FileNodoErrori, IlTestoDellErrore) {
 TEST(FileNodoErrori, IlBullone2000EAmmesso) {
   SessioneProva s;
   const auto f =
-      s.ScriviFile("pieno.qf7", kTestata +
+      s.ScriviFile("pieno.qf7", kTestataNodo +
                                     "2000 [nBull 4]\r\n7 [xBull 4 2000]\r\n200 [nSollAg]\r\n"
                                     "-5 [SforzoNormale 4 200]\r\n200 [NumNodi]\r\n");
   ASSERT_TRUE(ApriNodoDaFile(s.sessione, f));
@@ -130,7 +122,7 @@ TEST(FileNodoErrori, UnSalvataggioFallitoNonLasciaNullaAMeta) {
   std::filesystem::create_directories(f);
   s.ScriviFile("occupato.qf7/dentro.txt", "vecchio");
   EXPECT_FALSE(ScriviNodo(s.sessione.nodo, f, s.piattaforma));
-  EXPECT_EQ(ContenutoFile(f / "dentro.txt"), "vecchio");
+  EXPECT_EQ(LeggiTutto(f / "dentro.txt"), "vecchio");
   int voci = 0;
   for (const auto& voce : std::filesystem::directory_iterator(s.cartella)) {
     EXPECT_EQ(voce.path().filename(), "occupato.qf7");
@@ -141,4 +133,4 @@ TEST(FileNodoErrori, UnSalvataggioFallitoNonLasciaNullaAMeta) {
 }
 
 }  // namespace
-}  // namespace qf17
+}  // namespace qf17::prova

@@ -5,14 +5,8 @@
 #include "nodo/file_nodo.h"
 #include "sessione_prova.h"
 
-namespace qf17 {
+namespace qf17::prova {
 namespace {
-
-using prova::ContenutoFile;
-using prova::DatoProva;
-using prova::SessioneProva;
-
-constexpr double kGrado = 3.14159265358979 / 180;
 
 TEST(FileNodoVecchio, SecondaGenerazione) {
   Nodo n;
@@ -98,7 +92,7 @@ TEST(FileNodoVecchio, ApertoDalComandoPrendeLeLibrerie) {
 }
 
 TEST(FileNodoVecchio, OgniGuastoESilenzioso) {
-  const std::string intero = ContenutoFile(DatoProva("vecchio2.qf7"));
+  const std::string intero = LeggiTutto(DatoProva("vecchio2.qf7"));
   struct Caso {
     std::string nome, contenuto;
   };
@@ -128,7 +122,7 @@ TEST(FileNodoVecchio, OgniGuastoESilenzioso) {
 TEST(FileNodoVecchio, UnGuastoLasciaQuantoLettoNelNodoMaNonNellaSessione) {
   SessioneProva s;
   s.sessione.nodo.Fz_s = 99;
-  const std::string intero = ContenutoFile(DatoProva("vecchio2.qf7"));
+  const std::string intero = LeggiTutto(DatoProva("vecchio2.qf7"));
   const auto f = s.ScriviFile("troncato.qf7", intero.substr(0, intero.size() - 3));
   Nodo n;
   EXPECT_FALSE(LeggiNodoVecchio(n, f));
@@ -147,7 +141,7 @@ TEST(FileNodoVecchio, UnGuastoLasciaQuantoLettoNelNodoMaNonNellaSessione) {
 TEST(FileNodoVecchio, SenzaReleaseQuestoFileEVecchio) {
   SessioneProva s;
   // A keyed file whose header lost its file release goes to the positional reader and fails.
-  std::string testo = ContenutoFile(DatoProva("nodo_piccolo.qf7"));
+  std::string testo = LeggiTutto(DatoProva("nodo_piccolo.qf7"));
   testo.replace(testo.find(" [ReleaseQuestoFile=1]"), 22, "");
   const auto f = s.ScriviFile("senza.qf7", testo);
   s.sessione.nodo.Fz_s = 99;
@@ -158,4 +152,4 @@ TEST(FileNodoVecchio, SenzaReleaseQuestoFileEVecchio) {
 }
 
 }  // namespace
-}  // namespace qf17
+}  // namespace qf17::prova

@@ -1,20 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <ctime>
-
 #include "nodo/file_nodo.h"
 #include "nodo/nodo_default.h"
 #include "sessione_prova.h"
 
-namespace qf17 {
+namespace qf17::prova {
 namespace {
-
-using prova::ContenutoFile;
-using prova::DatoProva;
-using prova::SessioneProva;
-
-constexpr double kGrado = 3.14159265358979 / 180;
 
 TEST(NodoDefault, ValoriDiUnNodoNuovo) {
   SessioneProva s;
@@ -59,13 +50,9 @@ TEST(NodoDefault, ValoriDiUnNodoNuovo) {
 TEST(NodoDefault, IlFileDiUnNodoNuovo) {
   SessioneProva s;
   NodoDefault(s.sessione);
-  std::tm ora{};
-  ora.tm_year = 124, ora.tm_mon = 2, ora.tm_mday = 5, ora.tm_hour = 9, ora.tm_min = 7;
-  ora.tm_isdst = -1;
   const auto file = s.cartella / "nuovo.qf7";
-  ASSERT_TRUE(ScriviNodo(s.sessione.nodo, file, s.piattaforma,
-                         std::chrono::system_clock::from_time_t(std::mktime(&ora))));
-  EXPECT_EQ(ContenutoFile(file), ContenutoFile(DatoProva("nodo_nuovo.qf7")));
+  ASSERT_TRUE(ScriviNodo(s.sessione.nodo, file, s.piattaforma, OraLocale(2024, 3, 5, 9, 7)));
+  EXPECT_EQ(LeggiTutto(file), LeggiTutto(DatoProva("nodo_nuovo.qf7")));
 }
 
 TEST(NodoDefault, RiportaANuovoUnNodoCaricato) {
@@ -96,4 +83,4 @@ TEST(NodoDefault, ParoleDeiReport) {
 }
 
 }  // namespace
-}  // namespace qf17
+}  // namespace qf17::prova
