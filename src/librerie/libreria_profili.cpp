@@ -68,6 +68,7 @@ class Campi {
     static const std::string vuoto;
     return t >= 1 && t <= static_cast<int>(campi_.size()) ? campi_[t - 1] : vuoto;
   }
+  int Quanti() const { return static_cast<int>(campi_.size()); }
   double Numero(int t) const { return NumeroIniziale(Testo(t)); }
   std::string PrimoCarattere(int t) const { return PrimiCaratteri(Testo(t), 1); }
 
@@ -149,6 +150,28 @@ void LeggiDoppioT(Profilo& p, const Campi& c, bool conRaggioAlBordo) {
   if (conRaggioAlBordo) p.r2 = c.Numero(21);
 }
 
+// The last column each layout reads: a shorter line would give a section with zero dimensions.
+int UltimaColonna(Tracciato tracciato) {
+  switch (tracciato) {
+    case Tracciato::Canale:
+    case Tracciato::AngoloUguale:
+    case Tracciato::AngoloDisuguale:
+      return 17;
+    case Tracciato::DoppioAngolo:
+      return 10;
+    case Tracciato::TuboQuadro:
+    case Tracciato::Tubo:
+      return 12;
+    case Tracciato::IPN:
+      return 21;
+    case Tracciato::DoppioT:
+      return 20;
+    case Tracciato::Nessuno:
+      return 0;
+  }
+  return 0;
+}
+
 // t1 Area and t2 I1 in every layout, then the family's own columns.
 void LeggiCampi(Profilo& p, Tracciato tracciato, const Campi& c) {
   p.Area = c.Numero(1);
@@ -175,12 +198,15 @@ void LeggiCampi(Profilo& p, Tracciato tracciato, const Campi& c) {
   }
 }
 
-// The reading proper; nullopt when the file ends before "*END*" or a line falls beyond the table.
+// The reading proper; nullopt when the file ends before "*END*", a line falls beyond the table
+// or a line of an accepted family lacks columns (then `motivo` says which).
 std::optional<int> LeggiLinee(const std::vector<std::string>& righe, int primaRiga,
                               LibreriaProfili& libreria, double fattoreLunghezza,
-                              double fattoreArea, std::string_view filtro) {
+                              double fattoreArea, std::string_view filtro, std::string& motivo) {
   int riga = primaRiga;
+  int numeroLinea = 0;
   for (const auto& grezza : righe) {
+    ++numeroLinea;
     std::string linea = Rifila(grezza);
     if (linea == kFineLibreria) return riga - primaRiga;
     if (linea == "*" || linea == "%") continue;
@@ -194,7 +220,14 @@ std::optional<int> LeggiLinee(const std::vector<std::string>& righe, int primaRi
     if (!Accettata(famiglia, filtro)) continue;
     Tracciato tracciato = TracciatoDi(famiglia);
     if (tracciato == Tracciato::Nessuno) continue;
-    LeggiCampi(profilo, tracciato, Campi(linea));
+    Campi campi(linea);
+    if (campi.Quanti() < UltimaColonna(tracciato)) {
+      motivo = "Riga " + std::to_string(numeroLinea) + " (" + profilo.Nome +
+               "): " + std::to_string(campi.Quanti()) + " colonne di dati invece di " +
+               std::to_string(UltimaColonna(tracciato)) + ".";
+      return std::nullopt;
+    }
+    LeggiCampi(profilo, tracciato, campi);
     ScalaProfilo(profilo, fattoreLunghezza, fattoreArea);
     ++riga;
   }
@@ -223,23 +256,29 @@ void ScalaProfilo(Profilo& profilo, double fattoreLunghezza, double fattoreArea)
 }
 
 int LeggiProfilario(const std::filesystem::path& file, int primaRiga, LibreriaProfili& libreria,
-                    double fattoreLunghezza, double fattoreArea, std::string_view filtro) {
+                    double fattoreLunghezza, double fattoreArea, std::string_view filtro,
+                    std::string* motivo) {
   auto righe = LeggiRighe(std::filesystem::path(Rifila(file.string())));
   if (!righe) return 0;
+  std::string perche;
   try {
-    return LeggiLinee(*righe, primaRiga, libreria, fattoreLunghezza, fattoreArea, filtro)
-        .value_or(0);
+    int letti =
+        LeggiLinee(*righe, primaRiga, libreria, fattoreLunghezza, fattoreArea, filtro, perche)
+            .value_or(0);
+    if (motivo) *motivo = perche;
+    return letti;
   } catch (const ErroreFatale&) {
     return 0;  // a number beyond the range of a double: the library is as unusable as a missing one
   }
 }
 
-bool LeggiProfili(LibreriaProfili& libreria, const std::filesystem::path& file) {
-  libreria.NumProfili1 = LeggiProfilario(file, 1, libreria, 1, 10, kFiltroPrimaPassata);
-  libreria.NumProfili2 =
-      libreria.NumProfili1 == 0
-          ? 0
-          : LeggiProfilario(file, libreria.NumProfili1 + 1, libreria, 1, 10, kFiltroSecondaPassata);
+bool LeggiProfili(LibreriaProfili& libreria, const std::filesystem::path& file,
+                  std::string* motivo) {
+  libreria.NumProfili1 = LeggiProfilario(file, 1, libreria, 1, 10, kFiltroPrimaPassata, motivo);
+  libreria.NumProfili2 = libreria.NumProfili1 == 0
+                             ? 0
+                             : LeggiProfilario(file, libreria.NumProfili1 + 1, libreria, 1, 10,
+                                               kFiltroSecondaPassata, motivo);
   libreria.NumProfiliTot = libreria.NumProfili1 + libreria.NumProfili2;
   return libreria.NumProfili1 != 0 && libreria.NumProfili2 != 0;
 }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -30,14 +31,17 @@ inline constexpr std::string_view kFiltroPrimaPassata =
 inline constexpr std::string_view kFiltroSecondaPassata = " UPN  LD  LU ";
 
 // Reads the rows of the families in `filtro` into the table from `primaRiga`; returns how many
-// it stored, 0 on any failure (file missing, no "*END*", a row beyond the table).
+// it stored, 0 on any failure (file missing, no "*END*", a row beyond the table, a line of an
+// accepted family without all its columns: then `motivo` names the line).
 int LeggiProfilario(const std::filesystem::path& file, int primaRiga, LibreriaProfili& libreria,
-                    double fattoreLunghezza, double fattoreArea, std::string_view filtro);
+                    double fattoreLunghezza, double fattoreArea, std::string_view filtro,
+                    std::string* motivo = nullptr);
 
 // The two passes of start-up (mm, mm2, mm4 in memory), setting NumProfili1, NumProfili2 and
 // NumProfiliTot. False when either pass stored nothing: the caller shows "Profilario errato o
 // mancante" and ends. CompletaProfili is the caller's next step.
-bool LeggiProfili(LibreriaProfili& libreria, const std::filesystem::path& file);
+bool LeggiProfili(LibreriaProfili& libreria, const std::filesystem::path& file,
+                  std::string* motivo = nullptr);
 
 // Clears the dimensions, radii, centroid distances and Classe of a row before a line is parsed;
 // the name, area, moments, type and flange thicknesses keep what the row held.

@@ -152,8 +152,9 @@ void Avvio(Sessione& s, std::string_view rigaComando,
   LeggiMaterialiBase(s);
   RiempiListaAcciai(s, "");
 
-  if (!LeggiProfili(s.profili, Unisci(s.cartelle.custom, "Prof_pro"))) {
-    Fine(p, "Profilario errato o mancante", "ERRORE");
+  std::string motivo;
+  if (!LeggiProfili(s.profili, Unisci(s.cartelle.custom, "Prof_pro"), &motivo)) {
+    Fine(p, "Profilario errato o mancante" + (motivo.empty() ? "" : "\n" + motivo), "ERRORE");
   }
   CompletaProfili(s.profili);
 

@@ -213,8 +213,9 @@ TEST_F(LetturaProfili, LaTabellaHaDuemilaRighe) {
 }
 
 TEST_F(LetturaProfili, NomiDoppiRestanoEntrambi) {
-  auto file = Scrivi(
-      {RigaIPE("80", "1"), "LU 60x6 6.91 22.8", RigaIPE("80", "2"), "LU 60x6 7 23", "*END*"});
+  const std::string coda = " - 22.8 - 9.43 - b - - 60 6 16.9 16.9 - 8 4";
+  auto file = Scrivi({RigaIPE("80", "1"), "LU 60x6 6.91 22.8" + coda, RigaIPE("80", "2"),
+                      "LU 60x6 7 23" + coda, "*END*"});
   ASSERT_TRUE(LeggiProfili(lib_, file));
   EXPECT_EQ(lib_.NumProfiliTot, 4);
   EXPECT_EQ(lib_.Profili[2].Nome, "IPE80");
@@ -224,6 +225,23 @@ TEST_F(LetturaProfili, NomiDoppiRestanoEntrambi) {
   EXPECT_EQ(ProfiloDaNome(lib_, "LU60x6", p), 3);
   EXPECT_DOUBLE_EQ(lib_.Profili[4].Area, 700);
   EXPECT_TRUE(p.messaggi.empty());
+}
+
+// A line of an accepted family without all its columns would give a section of zero size: the
+// whole library is refused and the reason names the line; a skipped family may be short.
+TEST_F(LetturaProfili, ColonneMancantiRifiutanoIlProfilario) {
+  auto file =
+      Scrivi({"TUBO 60x3", RigaIPE("80"), "IPE 100 10.3 171 - - 15.9 - - - - 1.2", "*END*"});
+  std::string motivo;
+  EXPECT_EQ(LeggiProfilario(file, 1, lib_, 1, 10, kFiltroPrimaPassata, &motivo), 0);
+  EXPECT_EQ(motivo, "Riga 3 (IPE100): 10 colonne di dati invece di 20.");
+  EXPECT_FALSE(LeggiProfili(lib_, file, &motivo));
+  EXPECT_EQ(motivo, "Riga 3 (IPE100): 10 colonne di dati invece di 20.");
+
+  // Exactly the columns of the layout are enough.
+  file = Scrivi({RigaIPE("80"), "UPN 80 11 106 - 19.4 - 2.2 - c - - 80 45 6 8 14.5 8 4", "*END*"});
+  EXPECT_TRUE(LeggiProfili(lib_, file, &motivo));
+  EXPECT_EQ(motivo, "");
 }
 
 TEST(AzzeraProfilo, PulisceSoloMisureRaggiBaricentroEClasse) {

@@ -115,6 +115,14 @@ TEST_F(Avvio_, FallimentiCheFermanoIlProgramma) {
   }
 }
 
+TEST_F(Avvio_, ProfilarioConColonneMancantiNominaLaRiga) {
+  Scrivi("custom/Prof_pro", "IPE 80 7.64 80.1\r\n*END*\r\n");
+  ASSERT_TRUE(Avvia());
+  EXPECT_EQ(Ultimo().testo,
+            "Profilario errato o mancante\nRiga 1 (IPE80): 2 colonne di dati invece di 20.");
+  EXPECT_EQ(Ultimo().titolo, "ERRORE");
+}
+
 TEST_F(Avvio_, CartellaMancanteElencaTutteLeCartelle) {
   fs::remove_all(radice_ / "temp");
   ASSERT_TRUE(Avvia());
