@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "disegno/font.h"
@@ -11,6 +12,7 @@
 #include "nodo/cartelle.h"
 #include "nodo/nodo.h"
 #include "piattaforma/piattaforma.h"
+#include "verifica/risultati.h"
 
 namespace qf17 {
 
@@ -31,6 +33,18 @@ struct Sessione {
   Opzioni opzioni;
   FontTratti font;
   StiliGRB stiliGrb;
+  GeometriaFazzoletto geometria;
+
+  // The verification's tables, made on the first run (they are large) and kept, as the family
+  // keeps them, from one run to the next.
+  RisultatiVerifica& Risultati() {
+    if (!risultati_) risultati_ = std::make_unique<RisultatiVerifica>();
+    return *risultati_;
+  }
+  bool HaRisultati() const { return risultati_ != nullptr; }
+
+ private:
+  std::unique_ptr<RisultatiVerifica> risultati_;
 };
 
 }  // namespace qf17

@@ -59,4 +59,28 @@ class Tabella2 {
   std::vector<T> righe_;
 };
 
+// Three indices, for the per-bolt, per-set result tables.
+template <class T, int Primo1, int Ultimo1, int Primo2, int Ultimo2, int Primo3, int Ultimo3>
+class Tabella3 {
+  static constexpr int n2 = Ultimo2 - Primo2 + 1;
+  static constexpr int n3 = Ultimo3 - Primo3 + 1;
+
+ public:
+  Tabella3() : righe_(static_cast<std::size_t>(Ultimo1 - Primo1 + 1) * n2 * n3) {}
+
+  T& operator()(int i, int j, int k) { return righe_[Posizione(i, j, k)]; }
+  const T& operator()(int i, int j, int k) const { return righe_[Posizione(i, j, k)]; }
+
+ private:
+  static std::size_t Posizione(int i, int j, int k) {
+    if (i < Primo1 || i > Ultimo1) IndiceFuoriTabella(i, Primo1, Ultimo1);
+    if (j < Primo2 || j > Ultimo2) IndiceFuoriTabella(j, Primo2, Ultimo2);
+    if (k < Primo3 || k > Ultimo3) IndiceFuoriTabella(k, Primo3, Ultimo3);
+    return (static_cast<std::size_t>(i - Primo1) * n2 + static_cast<std::size_t>(j - Primo2)) *
+               n3 +
+           static_cast<std::size_t>(k - Primo3);
+  }
+  std::vector<T> righe_;
+};
+
 }  // namespace qf17
