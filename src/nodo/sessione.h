@@ -11,6 +11,7 @@
 #include "librerie/unita.h"
 #include "nodo/cartelle.h"
 #include "nodo/nodo.h"
+#include "piattaforma/errori.h"
 #include "piattaforma/piattaforma.h"
 #include "verifica/risultati.h"
 
@@ -39,6 +40,10 @@ struct Sessione {
   // keeps them, from one run to the next.
   RisultatiVerifica& Risultati() {
     if (!risultati_) risultati_ = std::make_unique<RisultatiVerifica>();
+    return *risultati_;
+  }
+  const RisultatiVerifica& Risultati() const {
+    if (!risultati_) throw ErroreFatale("Nessuna verifica eseguita");
     return *risultati_;
   }
   bool HaRisultati() const { return risultati_ != nullptr; }
