@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "comandi.h"
 #include "librerie/token.h"
 #include "nodo/avvio.h"
 #include "nodo/descrizione_nodo.h"
@@ -88,6 +89,8 @@ int main(int argc, char** argv) {
   converti->add_option("-o,--output", uscita, "File nodo da scrivere")->required();
   auto* nodo = app.add_subcommand("nodo", "Mostra il nodo caricato");
   nodo->add_option("NODO", ingresso, "File nodo .qf7")->required();
+  ComandoSoll sollecitazioni;
+  RegistraSollecitazioni(app, sollecitazioni);
 
   try {
     app.parse(argomenti);
@@ -102,6 +105,10 @@ int main(int argc, char** argv) {
     Avvio(*sessione, rigaFamiglia, CartellaProgramma(argv[0]));
     if (*converti) return Converti(*sessione, ingresso, uscita);
     if (*nodo) return Mostra(*sessione, ingresso);
+    if (*sollecitazioni.comando) {
+      return EseguiSollecitazioni(*sessione, FileNodo(*sessione, sollecitazioni.nodo),
+                                  sollecitazioni);
+    }
   } catch (const FineProgramma&) {
     return kEsitoErrore;
   } catch (const ErroreFatale& e) {
