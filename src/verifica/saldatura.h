@@ -7,9 +7,9 @@ namespace qf17 {
 struct Sessione;
 
 struct EsitoSaldatura {
-  double Sig = 0;      // rounded by Arrot1, as printed
-  double TauPar = 0;   // rounded by Arrot1
-  double TauPerp = 0;  // rounded by Arrot1
+  double Sig = 0;       // rounded by Arrot1, as printed
+  double TauPar = 0;    // rounded by Arrot1
+  double TauPerp = 0;   // rounded by Arrot1
   double Rapporto = 0;  // unrounded ratio to the limit; 1 is the limit
   // False when the steel is none of the three the weld rule knows: no ratio can be formed and
   // the weld counts as not verified.
