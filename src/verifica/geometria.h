@@ -89,8 +89,8 @@ void EstremiAsta(Nodo& nodo, int asta, double lunghOltre);
 void PuntiDiffusione(Nodo& nodo, int asta);
 
 // True when every figure the geometry wrote (chord angle, sides, the edges of present rows,
-// widths of present members) is a finite number. Only non-finite or overflowing entries
-// (lengths or angles near 1E+154 and beyond) break it.
+// widths of present members) is a finite number. Only entries that are not finite, or lengths
+// so large (beyond about 1E+150 mm) that their sums or squares overflow, break it.
 bool GeometriaFinita(const Nodo& nodo, const GeometriaFazzoletto& geometria);
 
 }  // namespace qf17
