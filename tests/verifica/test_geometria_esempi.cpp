@@ -79,7 +79,9 @@ TEST_F(GeometriaEsempi, IncrociSulContornoEdEstremiNelFazzoletto) {
         EXPECT_TRUE(NelFazzoletto(g, PuntoBordo(b, 1)));
         // Opposed profiles are cut where the farthest edge needs it: the others' points 2 reach
         // past their own crossings.
-        if (!opposta) EXPECT_TRUE(NelFazzoletto(g, PuntoBordo(b, 2)));
+        if (!opposta) {
+          EXPECT_TRUE(NelFazzoletto(g, PuntoBordo(b, 2)));
+        }
         EXPECT_FALSE(NelFazzoletto(g, PuntoBordo(b, 3)));
       }
     }
