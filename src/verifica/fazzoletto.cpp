@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 #include <utility>
 
 #include "nodo/sessione.h"
@@ -168,6 +169,8 @@ void VerificaFazzoletto(Sessione& sessione, int j) {
 void VerificaFazzoletto(Sessione& sessione, int j, CacheSezioni& cache) {
   RisultatiVerifica& r = sessione.Risultati();
   const Nodo& nd = sessione.nodo;
+  const std::string errore = "Errore nella verifica del fazzoletto";
+  const std::string areaNulla = "Area netta nulla nella verifica del fazzoletto";
   for (int g = 1; g <= kMaxAste; ++g) {
     const double N = nd.SforzoNormale(g, j);
     const int n = nd.nBull[g];
@@ -178,11 +181,11 @@ void VerificaFazzoletto(Sessione& sessione, int j, CacheSezioni& cache) {
     double sig = 0;
     for (const SezioneDiffusione& sez : c.sezioni) {
       if (sez.esito == EsitoSezione::Errore) {
-        Avviso(sessione, "Errore nella verifica del fazzoletto");
+        Avviso(sessione, errore);
         break;
       }
       if (sez.esito == EsitoSezione::AreaNulla) {
-        Avviso(sessione, "Area netta nulla nella verifica del fazzoletto");
+        Avviso(sessione, areaNulla);
         continue;
       }
       const double nSez = N * sez.Cont / n;

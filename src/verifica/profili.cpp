@@ -158,10 +158,11 @@ void Asta(Sessione& s, int i, int j, double N, sezioni::NettaAsta& c) {
   const Profilo& P = s.nodo.Aste[i];
   const int m = s.nodo.Ast_modo[i];
   const bool trazione = N > 0;
+  const std::string avviso = "Area netta della sezione del profilo " + P.Nome + " nulla";
   double sig = 0;
   for (const SezioneNetta& sez : c.sezioni) {
     if (trazione ? sez.nullaTrazione : sez.nullaAltro) {
-      Avviso(s, "Area netta della sezione del profilo " + P.Nome + " nulla");
+      Avviso(s, avviso);
       continue;
     }
     const double an = trazione ? sez.AnTrazione : sez.AnAltro;
@@ -177,10 +178,11 @@ void Corrente(Sessione& s, int j, double N, double H, double V, sezioni::NettaCo
   r.SigProf(0, j) = 0;
   r.TauCorr[j] = 0;
   SezioniCorrente(s, c);
+  const std::string avviso = "Area netta della sezione del corrente nulla";
   double sig = 0, tau = 0;
   for (double an : c.An) {
     if (an == 0) {
-      Avviso(s, "Area netta della sezione del corrente nulla");
+      Avviso(s, avviso);
       continue;
     }
     sig = Segno(N) * MaxDi(kF2 * std::abs(H / an), std::abs(sig));

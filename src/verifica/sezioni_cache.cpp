@@ -1,18 +1,9 @@
 #include "verifica/sezioni_cache.h"
 
-#include <bit>
 #include <cmath>
 #include <numeric>
 
 namespace qf17::sezioni {
-
-void Impronta::Aggiungi(double v) {
-  nuova_.push_back(std::bit_cast<std::uint64_t>(v));
-}
-
-void Impronta::Aggiungi(std::int64_t v) {
-  nuova_.push_back(static_cast<std::uint64_t>(v));
-}
 
 bool Impronta::Cambiata() {
   if (!vuota_ && nuova_ == accettata_) return false;

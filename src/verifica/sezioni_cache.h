@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -15,8 +16,8 @@ namespace sezioni {
 class Impronta {
  public:
   void Inizia() { nuova_.clear(); }
-  void Aggiungi(double v);
-  void Aggiungi(std::int64_t v);
+  void Aggiungi(double v) { nuova_.push_back(std::bit_cast<std::uint64_t>(v)); }
+  void Aggiungi(std::int64_t v) { nuova_.push_back(static_cast<std::uint64_t>(v)); }
   // True when what was added since Inizia differs from what was last accepted; it is then
   // accepted in its place.
   bool Cambiata();
