@@ -81,9 +81,11 @@ class NodoCasuale {
   }
 
   void Bulloni(Nodo& n, int g) {
-    const int quanti = Uno({0, 1, 2, 3, Intero(2, 12), Intero(2, 40), Intero(40, 150)});
+    const int quanti =
+        Uno({0, 1, 2, 3, Intero(2, 12), Intero(2, 40), Intero(40, 150), Intero(150, 400)});
     const int modo = Intero(0, 3);
-    const double largo = Uno({10.0, 60.0, 300.0});
+    // Wide groups leave few bolts within a hole diameter: the sorted search, not a full pass.
+    const double largo = Uno({10.0, 60.0, 300.0, 3000.0, 3000.0});
     n.nBull[g] = static_cast<std::int16_t>(quanti);
     for (int k = 1; k <= quanti; ++k) {
       n.xBull(g, k) = X(modo, largo);
@@ -143,7 +145,7 @@ TEST(SezioniDifferenziale, NodiCasuali) {
   RisultatiVerifica& r = s.Risultati();
   CacheSezioni cache;
   int messaggi = 0, stress = 0;
-  for (int nodo = 0; nodo < 400; ++nodo) {
+  for (int nodo = 0; nodo < 300; ++nodo) {
     NodoCasuale(1000 + nodo).Riempi(s);
     piattaforma.messaggi.clear();
     piattaformaOracolo.messaggi.clear();
