@@ -8,6 +8,9 @@ namespace qf17 {
 
 struct Sessione;
 
+// Exit status of any command that could not do its work.
+inline constexpr int kEsitoErrore = 2;
+
 // "sollecitazioni NODO --rimuovi-doppi | --max-min [-o FILE]": reduces the node's load table
 // and saves the node.
 struct ComandoSoll {
@@ -25,5 +28,11 @@ void RegistraSollecitazioni(CLI::App& app, ComandoSoll& opzioni);
 // 0 when done, 2 on any failure (the user was told through the platform).
 int EseguiSollecitazioni(Sessione& sessione, const std::filesystem::path& file,
                          const ComandoSoll& opzioni);
+
+// "verifica NODO [--metodo TA] [--json FILE]": runs the verification as the button does, writes
+// the report in the job folder and prints its path. 0 when the node is verified, 1 when it is
+// not, 2 on an error or when the run ended without a report.
+int ComandoVerifica(Sessione& sessione, const std::filesystem::path& file,
+                    const std::string& metodo, const std::string& fileJson);
 
 }  // namespace qf17

@@ -21,8 +21,6 @@ namespace {
 
 using namespace qf17;
 
-constexpr int kEsitoErrore = 2;
-
 std::filesystem::path CartellaProgramma(const char* argv0) {
   std::error_code ec;
   auto eseguibile = std::filesystem::read_symlink("/proc/self/exe", ec);
@@ -91,6 +89,15 @@ int main(int argc, char** argv) {
   nodo->add_option("NODO", ingresso, "File nodo .qf7")->required();
   ComandoSoll sollecitazioni;
   RegistraSollecitazioni(app, sollecitazioni);
+  std::string metodo, fileJson;
+  auto* verifica = app.add_subcommand(
+      "verifica",
+      "Verifica il nodo, scrive la relazione nella cartella del lavoro e ne stampa "
+      "il percorso (esito 0 verificato, 1 non verificato, 2 errore)");
+  verifica->add_option("NODO", ingresso, "File nodo .qf7")->required();
+  verifica->add_option("--metodo", metodo, "TA (tensioni ammissibili) o SLU (stati limite)")
+      ->check(CLI::IsMember({"TA", "SLU"}, CLI::ignore_case));
+  verifica->add_option("--json", fileJson, "Scrive le tabelle dei risultati in un file JSON");
 
   try {
     app.parse(argomenti);
@@ -104,6 +111,9 @@ int main(int argc, char** argv) {
     auto sessione = std::make_unique<Sessione>(piattaforma);
     Avvio(*sessione, rigaFamiglia, CartellaProgramma(argv[0]));
     if (*converti) return Converti(*sessione, ingresso, uscita);
+    if (*verifica) {
+      return ComandoVerifica(*sessione, FileNodo(*sessione, ingresso), metodo, fileJson);
+    }
     if (*nodo) return Mostra(*sessione, ingresso);
     if (*sollecitazioni.comando) {
       return EseguiSollecitazioni(*sessione, FileNodo(*sessione, sollecitazioni.nodo),

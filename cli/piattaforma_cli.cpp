@@ -19,9 +19,10 @@ std::optional<FileScelto> PiattaformaCli::ScegliFileDaSalvare(const RichiestaFil
   return std::nullopt;
 }
 
-bool PiattaformaCli::Avvia(const std::string& programma, const std::string& argomenti, bool) {
-  std::cerr << "(non avviato) " << programma << " " << argomenti << std::endl;
-  return false;
+// A viewer handed a file is the command's own business: it prints the file's path instead.
+// A tool whose answer the caller waits for cannot be started from here.
+bool PiattaformaCli::Avvia(const std::string&, const std::string&, bool attendi) {
+  return !attendi;
 }
 
 }  // namespace qf17

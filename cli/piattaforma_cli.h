@@ -6,7 +6,8 @@ namespace qf17 {
 
 // The command line's platform: every box goes to standard error as "TITOLO: testo"; questions
 // are answered OK, or Cancel when the user asked so on the command line; dialogs are never
-// shown (files come from the arguments) and other programs are not started.
+// shown (files come from the arguments) and other programs are not started: a viewer's file is
+// printed by the command instead, and a tool whose answer is awaited counts as not started.
 class PiattaformaCli : public Piattaforma {
  public:
   explicit PiattaformaCli(bool annulla = false) : annulla_(annulla) {}

@@ -205,6 +205,12 @@ EsitoVerifica EseguiVerifica(Sessione& s,
 
   if (!FazzolettoValido(s) || !DatiValidi(s)) return esito;
   GeometriaNodo(s);
+  if (!GeometriaFinita(s.nodo, s.geometria)) {
+    Avviso(s,
+           "Geometria del nodo non calcolabile: controllare le dimensioni del fazzoletto, "
+           "degli angoli e delle aste");
+    return esito;
+  }
   Nodo& n = s.nodo;
   RisultatiVerifica& r = s.Risultati();
   r.Lf = n.Fz_a + n.Fz_b + n.Fz_c + n.Fz_d;
