@@ -104,11 +104,11 @@ Nodo AngUpn(Sessione& s) {
   Fazzoletto(n, {150, 250, 250, 150, 100, 150, 100, 150}, 10);
   ScegliMateriali(s, n, "S 275 (FE 430)", "8.8");
   n.Esposizione = 1;
-  Sollecitazioni(n, {{14200, -9800, -6200, 0, "G + neve"},
-                     {9600, -6500, 4100, 1, "G + vento in pressione"},
-                     {-5200, 4300, 2700, 1, "G + vento in depressione"},
-                     {13100, -12000, -7500, 0, "G + neve asimmetrica"},
-                     {15000, -10400, -7900, 1, "G + neve + vento"}});
+  Sollecitazioni(n, {{7100, -4900, -3100, 0, "G + neve"},
+                     {4800, -3250, 2050, 1, "G + vento in pressione"},
+                     {-2600, 2150, 1350, 1, "G + vento in depressione"},
+                     {6550, -6000, -3750, 0, "G + neve asimmetrica"},
+                     {7500, -5200, -3950, 1, "G + neve + vento"}});
   return n;
 }
 
