@@ -74,6 +74,7 @@ int main(int argc, char** argv) {
 
   CLI::App app{"QF17 - verifica e disegno di un nodo di travatura reticolare bullonata"};
   app.require_subcommand(1);
+  app.fallthrough();  // --root and --annulla may follow the command too
   std::string radice;
   bool annulla = false;
   app.add_option("--root", radice, "Cartella radice dell'installazione (come |diroot=...|)");

@@ -13,3 +13,18 @@ echo
 echo "== qf17 converti VECCHIO2.qf7 (old positional file) -> VECCHIO2-convertito.qf7"
 "$qf17" converti "$lavoro/VECCHIO2.qf7" -o "$lavoro/VECCHIO2-convertito.qf7"
 head -12 "$lavoro/VECCHIO2-convertito.qf7" | tr -d '\r'
+echo
+# Exit status 1 means "not verified": the report says where.
+for nodo in ANGUPN DOPPIO HEASALD MOLTESOLL; do
+  echo "== qf17 verifica $nodo.qf7 --metodo TA"
+  esito=0
+  "$qf17" verifica "$nodo.qf7" --metodo TA || esito=$?
+  case $esito in
+    0) echo "   nodo verificato" ;;
+    1) echo "   nodo NON verificato" ;;
+    *) echo "   verifica non eseguita (esito $esito)"; exit "$esito" ;;
+  esac
+done
+echo
+echo "== Relazione di ANGUPN"
+tr -d '\r' < "$lavoro/RelTA_QF17_ANGUPN.txt"
