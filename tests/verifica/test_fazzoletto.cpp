@@ -62,8 +62,10 @@ const CasoDiffusione kCasi[] = {
 };
 
 TEST(Fazzoletto, SezioniDiDiffusione) {
+  ProvaSezioni p;  // one session for all: the result tables are large
   for (const CasoDiffusione& c : kCasi) {
-    ProvaSezioni p;
+    p.nodo.nBull[2] = 0;
+    p.piattaforma.messaggi.clear();
     for (const Bullone& b : c.bulloni) p.Bullone(2, b.x, b.y, b.d);
     p.nodo.Ast_coeff[2] = c.coeff;
     p.nodo.SforzoNormale(2, 1) = c.N;
