@@ -101,16 +101,58 @@ std::int16_t InteroStretto(std::string_view testo) {
   return InI16(Converti(t));
 }
 
+namespace {
+
+// The reference form: 15 significant digits in the %g style, trailing zeros dropped.
+std::string TestoQuindiciCifre(double valore) {
+  char buffer[40];
+  auto fine =
+      std::to_chars(buffer, buffer + sizeof buffer, valore, std::chars_format::general, 15).ptr;
+  return std::string(buffer, fine);
+}
+
+// The same text, found faster: when the shortest round-trip form of a normal double has at
+// most 15 significant digits, those are exactly the digits of the 15-digit form, so only the layout (plain digits
+// for exponents -4..14, exponent form otherwise) must follow the %g rule.
+std::string TestoBreve(double valore) {
+  // Below the normal range a double holds fewer than 15 digits and the rule does not hold.
+  if (std::fpclassify(valore) != FP_NORMAL) return TestoQuindiciCifre(valore);
+  char buffer[40];
+  auto fine =
+      std::to_chars(buffer, buffer + sizeof buffer, valore, std::chars_format::scientific).ptr;
+  std::string_view scientifico(buffer, static_cast<std::size_t>(fine - buffer));
+  std::size_t e = scientifico.find('e');
+  int cifre = 0;
+  for (std::size_t i = 0; i < e; ++i) cifre += Cifra(scientifico[i]) ? 1 : 0;
+  if (cifre > 15) return TestoQuindiciCifre(valore);
+  int esponente = 0;
+  std::from_chars(scientifico.data() + e + (scientifico[e + 1] == '+' ? 2 : 1),
+                  scientifico.data() + scientifico.size(), esponente);
+  if (esponente < -4 || esponente >= 15) return std::string(scientifico);
+  char fisso[40];
+  auto fineFisso = std::to_chars(fisso, fisso + sizeof fisso, valore, std::chars_format::fixed).ptr;
+  return std::string(fisso, fineFisso);
+}
+
+}  // namespace
+
 std::string TestoNumero(double valore) {
   if (valore == 0 || std::isnan(valore)) return "0";
   if (std::isinf(valore)) return valore > 0 ? "1.#INF" : "-1.#INF";
-  char buffer[40];
-  auto [fine, errore] =
-      std::to_chars(buffer, buffer + sizeof buffer, valore, std::chars_format::general, 15);
-  (void)errore;
-  std::string testo(buffer, fine);
-  std::transform(testo.begin(), testo.end(), testo.begin(),
-                 [](char c) { return c == 'e' ? 'E' : c; });
+  std::string testo = TestoBreve(valore);
+  for (char& c : testo) {
+    if (c == 'e') c = 'E';
+  }
+  return testo;
+}
+
+std::string TestoNumeroRiferimento(double valore) {
+  if (valore == 0 || std::isnan(valore)) return "0";
+  if (std::isinf(valore)) return valore > 0 ? "1.#INF" : "-1.#INF";
+  std::string testo = TestoQuindiciCifre(valore);
+  for (char& c : testo) {
+    if (c == 'e') c = 'E';
+  }
   return testo;
 }
 

@@ -11,6 +11,7 @@
 #include "verifica/geometria.h"
 #include "verifica/profili.h"
 #include "verifica/relazioni/relazione_ta.h"
+#include "verifica/sezioni_cache.h"
 
 namespace qf17 {
 namespace {
@@ -153,7 +154,7 @@ void SezioneSottoCorrente(Sessione& s, int j) {
 }
 
 // One load set; false when the run must end.
-bool SetDiCarico(Sessione& s, int j, FineVerifica& fine) {
+bool SetDiCarico(Sessione& s, int j, CacheSezioni& sezioni, FineVerifica& fine) {
   Nodo& n = s.nodo;
   RisultatiVerifica& r = s.Risultati();
   r.SommaH = 0;
@@ -168,8 +169,8 @@ bool SetDiCarico(Sessione& s, int j, FineVerifica& fine) {
     fine = FineVerifica::Interrotta;
     return false;
   }
-  VerificaProfili(s, j);
-  VerificaFazzoletto(s, j);
+  VerificaProfili(s, j, sezioni);
+  VerificaFazzoletto(s, j, sezioni);
   return true;
 }
 
@@ -216,8 +217,10 @@ EsitoVerifica EseguiVerifica(Sessione& s,
   r.Lf = n.Fz_a + n.Fz_b + n.Fz_c + n.Fz_d;
   r.EccF = -n.Fz_a - n.Fz_b + r.Lf / 2;
 
+  // What the net and diffusion sections owe to the bolts alone is worked out once for all sets.
+  CacheSezioni sezioni;
   for (int j = 1; j <= n.nSollAg; ++j) {
-    if (!SetDiCarico(s, j, esito.fine)) return esito;
+    if (!SetDiCarico(s, j, sezioni, esito.fine)) return esito;
   }
   EsitoTA(s);
   if (!RisultatiFiniti(s)) return esito;

@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <clocale>
+#include <cmath>
+#include <cstdint>
+#include <random>
 #include <string>
 
 #include "librerie/numeri.h"
@@ -47,6 +51,34 @@ TEST(Numeri, TestoNumeroPiuCortoA15Cifre) {
       {2.539999983236, "2.539999983236"},
   };
   for (const auto& c : casi) EXPECT_EQ(TestoNumero(c.valore), c.atteso);
+}
+
+// Random doubles of every magnitude and some with few digits, which take the fast road, and
+// values next to the switch between plain and exponent form.
+TEST(Numeri, TestoNumeroComeLaFormaDiRiferimento) {
+  std::mt19937_64 caso(17);
+  std::uniform_int_distribution<int> esponente(-30, 30);
+  std::uniform_int_distribution<int> cifre(1, 17);
+  int provati = 0;
+  for (int i = 0; i < 200000; ++i) {
+    double v;
+    if (i % 3 == 0) {
+      v = std::bit_cast<double>(caso());
+      if (!std::isfinite(v)) continue;
+    } else {
+      long long mantissa = static_cast<long long>(caso() % 100000000000000000ULL);
+      mantissa %= static_cast<long long>(std::pow(10.0, cifre(caso)));
+      v = static_cast<double>(mantissa) * std::pow(10.0, esponente(caso));
+      if (i % 2) v = -v;
+    }
+    ASSERT_EQ(TestoNumero(v), TestoNumeroRiferimento(v)) << std::hexfloat << v;
+    ++provati;
+  }
+  for (double v : {1e-5, 1e-4, 0.00012345, 1e14, 999999999999999.0, 1e15, 1e16, 123456.5, 0.1 + 0.2,
+                   1.0 / 3, 2.0 / 3, 9.9999999999999995e14, 5e-324, 1.7976931348623157e308}) {
+    EXPECT_EQ(TestoNumero(v), TestoNumeroRiferimento(v)) << v;
+  }
+  EXPECT_GT(provati, 190000);
 }
 
 TEST(Numeri, TestoNumeroIgnoraLaLocale) {
