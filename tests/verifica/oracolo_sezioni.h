@@ -6,6 +6,7 @@
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "sessione_verifica.h"
 #include "verifica/risultati.h"
 
 namespace qf17::prova {
@@ -18,7 +19,7 @@ void OracoloProfili(const Sessione& s, int j, RisultatiVerifica& r, Piattaforma&
 
 // A node built by hand for the section checks: gusset 10 thick, holes 1 mm over the bolt, so
 // that a bolt of 20 has a hole of 21; every member an angle 60 x 6.
-struct ProvaSezioni {
+struct ProvaSezioni : SessioneVerifica {
   ProvaSezioni() {
     sessione.opzioni[25] = 1;
     nodo.Fz_s = 10;
@@ -43,24 +44,10 @@ struct ProvaSezioni {
     return p;
   }
 
-  // Adds a bolt to group 0..3.
+  // Adds a bolt to group 0..3, of 20 mm unless told.
   void Bullone(int gruppo, double x, double y, double d = 20) {
-    const int k = ++nodo.nBull[gruppo];
-    nodo.xBull(gruppo, k) = x;
-    nodo.yBull(gruppo, k) = y;
-    nodo.FiBull(gruppo, k) = d;
+    SessioneVerifica::Bullone(gruppo, x, y, d);
   }
-
-  std::vector<std::string> Testi() const {
-    std::vector<std::string> testi;
-    for (const auto& m : piattaforma.messaggi) testi.push_back(m.testo);
-    return testi;
-  }
-
-  PiattaformaRegistrata piattaforma;
-  Sessione sessione{piattaforma};
-  Nodo& nodo = sessione.nodo;
-  RisultatiVerifica& r = sessione.Risultati();
 };
 
 }  // namespace qf17::prova

@@ -5,12 +5,13 @@
 
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "sessione_verifica.h"
 
 namespace qf17::prova {
 
 // A session with a node built by hand for the bolt checks: member A and the chord are channels
 // 120 high, flanges 10, web 6, gusset 10 thick; holes without tolerance, nominal bolt areas.
-struct ProvaBulloniTA {
+struct ProvaBulloniTA : SessioneVerifica {
   ProvaBulloniTA() {
     sessione.opzioni[25] = 0;
     sessione.opzioni[26] = 0;
@@ -35,25 +36,6 @@ struct ProvaBulloniTA {
     p.dBarX = 60;
     return p;
   }
-
-  // Adds a bolt to group 0..3.
-  void Bullone(int gruppo, double x, double y, double d) {
-    const int k = ++nodo.nBull[gruppo];
-    nodo.xBull(gruppo, k) = x;
-    nodo.yBull(gruppo, k) = y;
-    nodo.FiBull(gruppo, k) = d;
-  }
-
-  std::vector<std::string> Testi() const {
-    std::vector<std::string> testi;
-    for (const auto& m : piattaforma.messaggi) testi.push_back(m.testo);
-    return testi;
-  }
-
-  PiattaformaRegistrata piattaforma;
-  Sessione sessione{piattaforma};
-  Nodo& nodo = sessione.nodo;
-  RisultatiVerifica& r = sessione.Risultati();
 };
 
 }  // namespace qf17::prova
