@@ -6,27 +6,20 @@
 #include <string>
 
 #include "supporto/cartella_prova.h"
+#include "supporto/esegui_programma.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using qf17::prova::LeggiTutto;
 
-struct Esito {
-  int stato = -1;
-  std::string uscita;
-  std::string errori;
-};
+using qf17::prova::Esito;
 
 // Runs the staged program of the sample installation with the given arguments.
 class RigaDiComando : public ::testing::Test {
  protected:
   Esito Esegui(const std::string& argomenti, const std::string& programma = QF17_PROGRAMMA_STAGED) {
-    const fs::path out = cartella_ / "out.txt", err = cartella_ / "err.txt";
-    std::string comando = "cd '" + cartella_.string() + "' && '" + programma + "' " + argomenti +
-                          " >'" + out.string() + "' 2>'" + err.string() + "'";
-    int s = std::system(comando.c_str());
-    return {WIFEXITED(s) ? WEXITSTATUS(s) : -1, LeggiTutto(out), LeggiTutto(err)};
+    return qf17::prova::EseguiProgramma(cartella_, programma, argomenti);
   }
   std::string Esempio(const std::string& nome) const {
     return std::string(QF17_INSTALLAZIONE) + "/lavori/esempi/" + nome;

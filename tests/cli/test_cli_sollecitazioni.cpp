@@ -9,27 +9,20 @@
 #include "nodo/nodo.h"
 #include "piattaforma/piattaforma_registrata.h"
 #include "supporto/cartella_prova.h"
+#include "supporto/esegui_programma.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using qf17::prova::LeggiTutto;
 
-struct Esito {
-  int stato = -1;
-  std::string uscita;
-  std::string errori;
-};
+using qf17::prova::Esito;
 
 // Runs the staged program on copies of the sample nodes in a folder of its own.
 class RigaDiComandoSoll : public ::testing::Test {
  protected:
   Esito Esegui(const std::string& argomenti) {
-    const fs::path out = cartella_ / "out.txt", err = cartella_ / "err.txt";
-    std::string comando = "cd '" + cartella_.string() + "' && '" QF17_PROGRAMMA_STAGED "' " +
-                          argomenti + " >'" + out.string() + "' 2>'" + err.string() + "'";
-    int s = std::system(comando.c_str());
-    return {WIFEXITED(s) ? WEXITSTATUS(s) : -1, LeggiTutto(out), LeggiTutto(err)};
+    return qf17::prova::EseguiProgramma(cartella_, QF17_PROGRAMMA_STAGED, argomenti);
   }
   fs::path CopiaEsempio(const std::string& nome) {
     const fs::path copia = cartella_ / nome;

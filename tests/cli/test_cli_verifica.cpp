@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "supporto/cartella_prova.h"
+#include "supporto/esegui_programma.h"
 
 namespace {
 
@@ -21,11 +22,7 @@ namespace fs = std::filesystem;
 using nlohmann::json;
 using qf17::prova::LeggiTutto;
 
-struct Esito {
-  int stato = -1;
-  std::string uscita;
-  std::string errori;
-};
+using qf17::prova::Esito;
 
 class RigaDiComandoVerifica : public ::testing::Test {
  protected:
@@ -38,11 +35,7 @@ class RigaDiComandoVerifica : public ::testing::Test {
   }
 
   Esito Esegui(const std::string& argomenti) {
-    const fs::path out = cartella_ / "out.txt", err = cartella_ / "err.txt";
-    std::string comando = "cd '" + cartella_.string() + "' && '" QF17_PROGRAMMA_STAGED "' " +
-                          argomenti + " >'" + out.string() + "' 2>'" + err.string() + "'";
-    int s = std::system(comando.c_str());
-    return {WIFEXITED(s) ? WEXITSTATUS(s) : -1, LeggiTutto(out), LeggiTutto(err)};
+    return qf17::prova::EseguiProgramma(cartella_, QF17_PROGRAMMA_STAGED, argomenti);
   }
 
   // A copy of a sample under a name of this process; returns the node's name.
