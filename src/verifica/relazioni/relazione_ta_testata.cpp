@@ -1,10 +1,10 @@
 #include <string>
 
-#include "librerie/formatta.h"
 #include "librerie/numeri.h"
 #include "nodo/nodo_default.h"
 #include "nodo/sessione.h"
 #include "verifica/comuni.h"
+#include "verifica/relazioni/relazione_comune.h"
 #include "verifica/relazioni/relazione_ta_parti.h"
 
 namespace qf17 {
@@ -12,21 +12,8 @@ namespace {
 
 constexpr char kT = kTab;
 
-// The number the panel's angle box shows: degrees to two decimals at most, read back.
-double NumeroCasellaAngolo(double radianti, Piattaforma& piattaforma) {
-  double scala = 1;
-  return NumeroIniziale(Formatta(RadiantiInGradi(radianti), "(DV_02)(NP_1)", scala, piattaforma));
-}
-
 void ScriviTitolo(const Nodo& n, TestoRelazione& r) {
-  r << "VERIFICA TENSIONALE";
-  if (n.NumNodi > 0) {
-    r << " NODI: ";
-    for (int i = 1; i <= n.NumNodi; ++i) {
-      if (i > 1) r << ',';
-      r << TestoNumero(static_cast<long long>(n.NomeNodi[i]));
-    }
-  }
+  ScriviTitoloVerifica(n, r);
   r << " - METODO DELLE TENSIONI AMMISSIBILI (CNR 10011/88)" << kFine;
   r << kFine << "UNITA' DI MISURA:" << kFine;
 }

@@ -1,0 +1,56 @@
+#include "verifica/relazioni/relazione_comune.h"
+
+#include <filesystem>
+
+#include "librerie/formatta.h"
+#include "librerie/numeri.h"
+#include "nodo/sessione.h"
+#include "piattaforma/file_testo.h"
+#include "verifica/relazioni/relazione_ta.h"
+
+namespace qf17 {
+
+void ScriviTitoloVerifica(const Nodo& n, TestoRelazione& r) {
+  r << "VERIFICA TENSIONALE";
+  if (n.NumNodi <= 0) return;
+  r << " NODI: ";
+  for (int i = 1; i <= n.NumNodi; ++i) {
+    if (i > 1) r << ',';
+    r << TestoNumero(static_cast<long long>(n.NomeNodi[i]));
+  }
+}
+
+double NumeroCasellaAngolo(double radianti, Piattaforma& piattaforma) {
+  double scala = 1;
+  return NumeroIniziale(Formatta(RadiantiInGradi(radianti), "(DV_02)(NP_1)", scala, piattaforma));
+}
+
+void PreparaVerdetti(VerdettiRelazione& verdetti, int nSet) {
+  verdetti = VerdettiRelazione{};
+  verdetti.SetOk.assign(nSet + 1, true);
+  verdetti.RapportoSaldatura.assign(nSet + 1, 0.0);
+  verdetti.SaldaturaVerificabile.assign(nSet + 1, true);
+}
+
+// The text is UTF-8, the encoding of this platform's editors, with CR LF line ends.
+bool ConcludiRelazione(Sessione& sessione, std::string_view tag, const TestoRelazione& r,
+                       bool nodoKo) {
+  Piattaforma& p = sessione.piattaforma;
+  if (nodoKo) {
+    p.Messaggio("ATTENZIONE: nodo non verificato!", "QF17 - NODO DI TRAVATURA RETICOLARE",
+                Icona::Attenzione, Pulsanti::Ok);
+  }
+  std::filesystem::path file = NomeRelazione(sessione.nodo, tag);
+  if (!ScriviFileSicuro(file, r.testo())) {
+    p.Messaggio("Errore: scrittura della relazione non riuscita:\n" + file.string(), "ERRORE",
+                Icona::Critica, Pulsanti::Ok);
+    return false;
+  }
+  if (!p.Avvia("notepad.exe", file.string(), false)) {
+    p.Messaggio("Errore: impossibile mostrare la relazione:\n" + file.string(), "ERRORE",
+                Icona::Critica, Pulsanti::Ok);
+  }
+  return true;
+}
+
+}  // namespace qf17

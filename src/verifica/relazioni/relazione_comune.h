@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string_view>
+
+#include "verifica/relazioni/testo_relazione.h"
+
+namespace qf17 {
+
+struct Sessione;
+struct Nodo;
+class Piattaforma;
+struct VerdettiRelazione;
+
+// The frame both reports share.
+
+// "VERIFICA TENSIONALE", then " NODI: " and the imported node numbers joined by "," when there
+// are any; no line end, since each method adds its own name to the title.
+void ScriviTitoloVerifica(const Nodo& nodo, TestoRelazione& r);
+// The number the panel's angle box shows for an angle: degrees to two decimals at most, read
+// back.
+double NumeroCasellaAngolo(double radianti, Piattaforma& piattaforma);
+// Verdicts for `nSet` load sets (index 0 unused), every set verified until its checks say
+// otherwise.
+void PreparaVerdetti(VerdettiRelazione& verdetti, int nSet);
+// The end of a report: the closing message when a set has failed, which comes up before the
+// file is on disk, as the user has always seen it; then the file (NomeRelazione with `tag`),
+// written whole through a temporary file, and the viewer ("notepad.exe", not waited for). False,
+// with a message, when the file cannot be written; the viewer is then not started.
+bool ConcludiRelazione(Sessione& sessione, std::string_view tag, const TestoRelazione& r,
+                       bool nodoKo);
+
+}  // namespace qf17
