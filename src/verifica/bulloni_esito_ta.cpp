@@ -1,24 +1,13 @@
 #include <cmath>
 
 #include "nodo/sessione.h"
+#include "verifica/bulloni_comuni.h"
 #include "verifica/bulloni_ta.h"
 #include "verifica/comuni.h"
 
 namespace qf17 {
 
 namespace {
-
-// The flags start raised and each check only ever clears its own.
-void AlzaBandierine(RisultatiVerifica& r, int j) {
-  r.OkCorr[j] = 1;
-  r.OkSotto[j] = 1;
-  for (int g = 0; g <= 3; ++g) {
-    r.OkTau(g, j) = 1;
-    r.OkRif(g, j) = 1;
-    r.OkProf(g, j) = 1;
-    r.OkDiff(g, j) = 1;
-  }
-}
 
 // End distance and diameter of a group: the least x and the least diameter, from the first
 // slot. With no bolt that slot may hold old data, which no test then reads.
