@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "disegno/archivio_disegno.h"
 #include "disegno/font.h"
 #include "disegno/opzioni.h"
 #include "disegno/stili_grb.h"
@@ -35,6 +36,7 @@ struct Sessione {
   FontTratti font;
   StiliGRB stiliGrb;
   GeometriaFazzoletto geometria;
+  ArchivioDisegno disegno;
 
   // The verification's tables, made on the first run (they are large) and kept, as the family
   // keeps them, from one run to the next.
