@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace qf17 {
+
+class ArchivioDisegno;
+
+// The passes of the clean-up, each in one sweep over sorted or gridded data instead of the
+// pairwise walks the family's description suggests; they give the same tables.
+
+// For each line, whether it stays: lines of negative colour or type go; a line of positive
+// colour and type goes when another line still present at its turn covers both its ends.
+std::vector<bool> LineeDaTenere(const ArchivioDisegno& a);
+
+// For each coordinate, the first coordinate before it equal within 0.0001 in X and Y, or itself.
+std::vector<std::int32_t> PrimeCoordinateUguali(const ArchivioDisegno& a);
+
+// One end on a segment, the family's way: the sum of the distances to the ends exceeds the
+// segment's length by less than the tolerance.
+bool SuSegmento(double px, double py, double ax, double ay, double bx, double by);
+
+}  // namespace qf17
