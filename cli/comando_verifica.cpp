@@ -17,11 +17,6 @@ int ComandoVerifica(Sessione& s, const std::filesystem::path& file, const std::s
                     const std::string& fileJson) {
   if (!ApriNodoDaFile(s, file)) return kEsitoErrore;
   if (!metodo.empty()) s.nodo.TipoVer = Maiuscolo(metodo) == "SLU" ? 1 : 0;
-  if (s.nodo.TipoVer == 1) {
-    std::cerr << "ERRORE: la verifica agli stati limite (SLU) non e' ancora disponibile: usare "
-                 "--metodo TA\n";
-    return kEsitoErrore;
-  }
   AvvisoBulloniMancanti(s);
   nlohmann::json documento;
   EsitoVerifica esito = EseguiVerifica(s, [&](const Sessione& sessione) {

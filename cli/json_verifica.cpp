@@ -12,8 +12,18 @@ const char* kNomiGruppi[] = {"corrente", "asta A", "asta B", "asta C"};
 json Bulloni(const Sessione& s, int g, int j) {
   const RisultatiVerifica& r = s.Risultati();
   json bulloni = json::array();
+  const bool slu = s.nodo.TipoVer == 1;
   for (int k = 1; k <= s.nodo.nBull[g]; ++k) {
-    bulloni.push_back({{"k", k}, {"TauBull", r.TauBull(g, k, j)}, {"RifBull", r.RifBull(g, k, j)}});
+    if (slu) {
+      bulloni.push_back({{"k", k},
+                         {"FedBull", r.FedBull(g, k, j)},
+                         {"FvRd", r.FvRd(g, k)},
+                         {"FbRd", r.FbRd(g, k)},
+                         {"RapportoBull", r.RapportoBull(g, k, j)}});
+    } else {
+      bulloni.push_back(
+          {{"k", k}, {"TauBull", r.TauBull(g, k, j)}, {"RifBull", r.RifBull(g, k, j)}});
+    }
   }
   return bulloni;
 }
@@ -81,7 +91,11 @@ void AggiungiVerdetti(json& documento, const Sessione& s, const EsitoVerifica& e
     std::size_t j = i + 1;
     json& set = insiemi[i];
     if (j < v.SetOk.size()) set["SetOk"] = static_cast<bool>(v.SetOk[j]);
-    if (s.nodo.Corrente.Tipo == 2 && j < v.RapportoSaldatura.size()) {
+    if (s.nodo.Corrente.Tipo == 2 && s.nodo.TipoVer == 1) {
+      // The equivalent stresses of the weld are formed by the report.
+      set["saldatura"]["SEq1"] = s.nodo.Saldature(4, 1).SEq1[static_cast<int>(j)];
+      set["saldatura"]["SEq2"] = s.nodo.Saldature(4, 1).SEq2[static_cast<int>(j)];
+    } else if (s.nodo.Corrente.Tipo == 2 && j < v.RapportoSaldatura.size()) {
       set["saldatura"]["rapporto"] = v.RapportoSaldatura[j];
       set["saldatura"]["verificabile"] =
           j < v.SaldaturaVerificabile.size() ? static_cast<bool>(v.SaldaturaVerificabile[j]) : true;

@@ -5,11 +5,13 @@
 
 #include "nodo/nodo_default.h"
 #include "nodo/sessione.h"
+#include "verifica/bulloni_slu.h"
 #include "verifica/bulloni_ta.h"
 #include "verifica/comuni.h"
 #include "verifica/fazzoletto.h"
 #include "verifica/geometria.h"
 #include "verifica/profili.h"
+#include "verifica/relazioni/relazione_slu.h"
 #include "verifica/relazioni/relazione_ta.h"
 #include "verifica/sezioni_cache.h"
 
@@ -79,7 +81,9 @@ bool RisultatiFiniti(Sessione& s) {
     for (int g = 0; g <= 3 && finiti; ++g) {
       finiti = std::isfinite(r.SigProf(g, j)) && std::isfinite(r.SigDiff(g, j));
       for (int k = 1; k <= n.nBull[g] && finiti; ++k) {
-        finiti = std::isfinite(r.TauBull(g, k, j)) && std::isfinite(r.RifBull(g, k, j));
+        finiti = n.TipoVer == 1
+                     ? std::isfinite(r.FedBull(g, k, j)) && std::isfinite(r.RapportoBull(g, k, j))
+                     : std::isfinite(r.TauBull(g, k, j)) && std::isfinite(r.RifBull(g, k, j));
       }
     }
     if (!finiti) {
@@ -98,6 +102,35 @@ bool ParallelaAlCorrente(const Nodo& n, int i) {
   return std::abs(b - a) < 0.0001;
 }
 
+bool StatiLimite(const Nodo& n) {
+  return n.TipoVer == 1;
+}
+
+// The force on a bolt group by the node's method; under limit states also each bolt's ratio
+// (the chord's only when it is bolted).
+void ForzeGruppo(Sessione& s, int g, int j, double Fx, double Fy, double xP) {
+  const Nodo& n = s.nodo;
+  if (!StatiLimite(n)) {
+    BulloniTA(s, g, j, Fx, Fy, xP);
+    return;
+  }
+  ForzeBulloniSLU(s, g, j, Fx, Fy, xP);
+  if (g == 1 && n.Corrente.Tipo == 2) return;
+  for (int k = 1; k <= n.nBull[g - 1]; ++k) RapportoBullone(s, g - 1, k, j);
+}
+
+// Under limit states the layout of each bolted group is checked, and its resistances found,
+// once per run; a Cancel here counts only through the load sets that follow.
+void BulloniPerIlRun(Sessione& s) {
+  const Nodo& n = s.nodo;
+  for (int g = 1; g <= 4; ++g) {
+    bool gruppo = g == 1 ? n.Corrente.Tipo != 2 : n.Ast_flag[g - 1] == 1;
+    if (!gruppo) continue;
+    ControlliBulloniSLU(s, g);
+    ResistenzeBulloniSLU(s, g);
+  }
+}
+
 // Members of set j: bolts of each present member, and the resultants on the chord.
 // False when the run must end (a member parallel to the chord, or Interrompi).
 bool Aste(Sessione& s, int j, FineVerifica& fine) {
@@ -114,7 +147,7 @@ bool Aste(Sessione& s, int j, FineVerifica& fine) {
     // Each profile of a double or opposed member carries its own row of the group.
     double N = n.SforzoNormale(i, j);
     if (n.Ast_modo[i] != 0) N /= 2;
-    BulloniTA(s, i + 1, j, N, 0, 0);
+    ForzeGruppo(s, i + 1, j, N, 0, 0);
     if (r.Interrompi == 1) {
       fine = FineVerifica::Interrotta;
       return false;
@@ -164,7 +197,7 @@ bool SetDiCarico(Sessione& s, int j, CacheSezioni& sezioni, FineVerifica& fine) 
   if (!Aste(s, j, fine)) return false;
   SezioneSottoCorrente(s, j);
   // The chord takes half of the resultants, applied where the node's point lies on the gusset.
-  BulloniTA(s, 1, j, r.SommaH / 2, r.SommaV / 2, n.Fz_a + n.Fz_b);
+  ForzeGruppo(s, 1, j, r.SommaH / 2, r.SommaV / 2, n.Fz_a + n.Fz_b);
   if (r.Interrompi == 1) {
     fine = FineVerifica::Interrotta;
     return false;
@@ -217,17 +250,23 @@ EsitoVerifica EseguiVerifica(Sessione& s,
   r.Lf = n.Fz_a + n.Fz_b + n.Fz_c + n.Fz_d;
   r.EccF = -n.Fz_a - n.Fz_b + r.Lf / 2;
 
+  if (StatiLimite(n)) BulloniPerIlRun(s);
   // What the net and diffusion sections owe to the bolts alone is worked out once for all sets.
   CacheSezioni sezioni;
   for (int j = 1; j <= n.nSollAg; ++j) {
     if (!SetDiCarico(s, j, sezioni, esito.fine)) return esito;
   }
-  EsitoTA(s);
+  const bool slu = StatiLimite(n);
+  if (slu) {
+    EsitoSLU(s);
+  } else {
+    EsitoTA(s);
+  }
   if (!RisultatiFiniti(s)) return esito;
   if (primaDellaRelazione) primaDellaRelazione(s);
-  if (!RelazioneTA(s, esito.verdetti)) return esito;
+  if (!(slu ? RelazioneSLU(s, esito.verdetti) : RelazioneTA(s, esito.verdetti))) return esito;
   esito.fine = FineVerifica::Relazione;
-  esito.relazione = NomeRelazione(n, "TA");
+  esito.relazione = NomeRelazione(n, slu ? "SLU" : "TA");
   esito.nodoVerificato = !esito.verdetti.NodoKo;
   return esito;
 }
