@@ -100,7 +100,9 @@ DistanzeBordo DistanzeDaiBordi(const Nodo& nodo, int gruppo, const Profilo& prof
 }
 
 // Of each pair, a step counts only when the pair lies within two diameters of one line.
-// Quadratic in the bolts; it runs once per group and run.
+// Quadratic in the bolts; it runs once per group and run. The test against the pitch found so
+// far comes first: it soon fails for nearly every pair, which keeps the loop's jumps
+// predictable in scattered layouts.
 Interassi ScansioneInterassi(const std::vector<double>& x, const std::vector<double>& y, double pX,
                              double pY, double dm, std::optional<double> pYInRiga) {
   Interassi p{pX, pY, false};
@@ -115,7 +117,7 @@ Interassi ScansioneInterassi(const std::vector<double>& x, const std::vector<dou
         return p;
       }
       if (dy > 0.0001) {
-        if (2 * dm > dx && dy < p.pY) {
+        if (dy < p.pY && 2 * dm > dx) {
           p.pY = dy;
         } else if (p.pY < 0.0001) {
           p.pY = dy;
@@ -124,7 +126,7 @@ Interassi ScansioneInterassi(const std::vector<double>& x, const std::vector<dou
         p.pY = *pYInRiga;
       }
       if (dx > 0.0001) {
-        if (2 * dm > dy && dx < p.pX) {
+        if (dx < p.pX && 2 * dm > dy) {
           p.pX = dx;
         } else if (p.pX < 0.0001) {
           p.pX = dx;
