@@ -69,6 +69,9 @@ TEST(ForzeBulloniSLU, BulloneSoloConMomentoTieneIlValorePrecedente) {
   // Next run, xP = 90: MomG = (90 - 60) * 500 = 15000; nothing is written.
   ForzeBulloniSLU(p.sessione, 1, 3, 2000, 500, 90);
   EXPECT_NEAR(p.r.FedBull(0, 1, 3), 1118.034, 0.001);
+  // MomG = (61 - 60) * 0.0001 = 0.0001: not below 0.0001, so nothing either.
+  ForzeBulloniSLU(p.sessione, 1, 3, 0, 0.0001, 61);
+  EXPECT_NEAR(p.r.FedBull(0, 1, 3), 1118.034, 0.001);
   // A member's bolt off the line of action: MomG = -(50 - 40) * 1000.
   p.Bullone(1, 60, 40, 16);
   p.r.FedBull(1, 1, 3) = 123;
