@@ -16,16 +16,16 @@
 //    certificate: in the coordinates A = T u + v, B = T u - v the lower half of the fan is the
 //    quadrant A_m <= A_k, B_m <= B_k (the upper, both >=). Sorted by A with running minima of
 //    B, "no other bolt in the quadrant widened by eta" is answered in O(log n). The rounded fan
-//    test differs from the exact cone by about 1e-15 of the coordinates, so eta = 1e-9 of them
+//    test differs from the exact cone by a few 1e-15 of the coordinates, so eta = 1e-9 of them
 //    only ever lets through more bolts: a side declared empty is empty for the rounded test too.
 //    A side that may hold a fan bolt is visited as in step 2, which decides exactly.
 //
 // Cost: O(n log n) for the sorting, plus per bolt the levels visited before a fan bolt is met
 // on each side, times O(log s). Rows, grids and staggered rows meet one in the next level or
-// two, so the whole is O(n log n). The worst case, a fan bolt met only after many levels that
-// hold none (bolts strung out at more than 30 degrees from u, with one far away in the cone),
-// is O(n^2), as the plain pair loop. Coordinates that are not finite, or beyond 1e12 mm, go to
-// the pair loop.
+// two (a cloud of scattered bolts in some tens), so the whole is about O(n log n). The worst case,
+// a fan bolt met only after many levels that hold none (bolts strung out at more than 30 degrees
+// from u, with one far away in the cone), is O(n^2), as the plain pair loop. Coordinates that are
+// not finite, or beyond 1e12 mm, go to the pair loop.
 #include "verifica/bulloni_slu_ventaglio.h"
 
 #include <algorithm>
