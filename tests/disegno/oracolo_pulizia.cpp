@@ -319,7 +319,7 @@ class Riempitore {
       t_.TestoLarghezza[i] = static_cast<std::int16_t>(Prob(0.05) ? 0 : Intero(50, 120));
       t_.TestoAltezza[i] = static_cast<std::int16_t>(Prob(0.05) ? 0 : Intero(50, 120));
       t_.TestoColore[i] = static_cast<std::int16_t>(Intero(1, 7));
-      t_.TestoStringa[i] = "T" + std::to_string(i);
+      t_.TestoStringa[i] = std::to_string(i);
     }
   }
 

@@ -66,14 +66,15 @@ std::int32_t Compatta(std::int32_t righe, const std::vector<bool>& tieni, F spos
   return n;
 }
 
-void PulisciLinee(ArchivioDisegno& a) {
+void PulisciLinee(ArchivioDisegno& a, double latoCella) {
   TabelleDisegno& t = a.Tabelle();
-  a.NumLinee = Compatta(a.NumLinee, LineeDaTenere(a), [&t](std::int32_t da, std::int32_t in) {
-    t.LinP1[in] = t.LinP1[da];
-    t.LinP2[in] = t.LinP2[da];
-    t.LinColore[in] = t.LinColore[da];
-    t.LinTipo[in] = t.LinTipo[da];
-  });
+  a.NumLinee =
+      Compatta(a.NumLinee, LineeDaTenere(a, latoCella), [&t](std::int32_t da, std::int32_t in) {
+        t.LinP1[in] = t.LinP1[da];
+        t.LinP2[in] = t.LinP2[da];
+        t.LinColore[in] = t.LinColore[da];
+        t.LinTipo[in] = t.LinTipo[da];
+      });
 }
 
 // An arc equal in all six fields to an earlier one goes.
@@ -182,8 +183,12 @@ void RimuoviCoordinateInutili(ArchivioDisegno& a) {
 }  // namespace
 
 void PulisciDisegno(ArchivioDisegno& a) {
+  PulisciDisegnoConCelle(a, 0);
+}
+
+void PulisciDisegnoConCelle(ArchivioDisegno& a, double latoCella) {
   VerificaArchivio(a);
-  PulisciLinee(a);
+  PulisciLinee(a, latoCella);
   PulisciArchi(a);
   PulisciTesti(a);
   UnisciCoordinate(a);

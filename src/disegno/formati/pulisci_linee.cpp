@@ -58,7 +58,8 @@ double Fascia(double lunghezza, double massimo) {
 
 class Griglia {
  public:
-  Griglia(const std::vector<Segmento>& seg, const std::vector<bool>& normale);
+  // `lato` 0 chooses the cell size from the drawing.
+  Griglia(const std::vector<Segmento>& seg, const std::vector<bool>& normale, double lato);
 
   // The lines listed in the cell of (x, y), by index.
   std::pair<std::vector<Voce>::const_iterator, std::vector<Voce>::const_iterator> Cella(
@@ -79,7 +80,7 @@ class Griglia {
   std::vector<std::int32_t> lunghe_;
 };
 
-Griglia::Griglia(const std::vector<Segmento>& seg, const std::vector<bool>& normale) {
+Griglia::Griglia(const std::vector<Segmento>& seg, const std::vector<bool>& normale, double lato) {
   bool primo = true;
   for (std::size_t i = 0; i < seg.size(); ++i) {
     if (!normale[i]) continue;
@@ -89,7 +90,7 @@ Griglia::Griglia(const std::vector<Segmento>& seg, const std::vector<bool>& norm
     oy_ = primo ? std::min(s.ay, s.by) : std::min({oy_, s.ay, s.by});
     primo = false;
   }
-  lato_ = Lato(seg, normale);
+  lato_ = lato > 0 ? lato : Lato(seg, normale);
   std::vector<Voce> celle;
   for (std::size_t i = 0; i < seg.size(); ++i) {
     const auto linea = static_cast<std::int32_t>(i);
@@ -136,7 +137,11 @@ double Griglia::Lato(const std::vector<Segmento>& seg, const std::vector<bool>& 
                                            static_cast<double>(misura.size())) /
                 kCelleLineaLunga;
   }
-  const double lato = std::max({diffusione, perLunghe, 4 * quantile(fasce, 0.5)});
+  // And no more cells in all than a few per line: lines all alike would each cross many.
+  double somma = 0;
+  for (double m : misura) somma += m;
+  const double perTotale = somma / (16 * static_cast<double>(misura.size()));
+  const double lato = std::max({diffusione, perLunghe, perTotale, 4 * quantile(fasce, 0.5)});
   return std::isfinite(lato) && lato > 0 ? lato : 1;
 }
 
@@ -203,7 +208,7 @@ bool CopertaDa(std::int32_t i, It inizio, It fine, Linea linea, const std::vecto
 
 }  // namespace
 
-std::vector<bool> LineeDaTenere(const ArchivioDisegno& a) {
+std::vector<bool> LineeDaTenere(const ArchivioDisegno& a, double latoCella) {
   const TabelleDisegno& t = a.Tabelle();
   const auto n = static_cast<std::size_t>(a.NumLinee);
   std::vector<Segmento> seg(n);
@@ -217,7 +222,7 @@ std::vector<bool> LineeDaTenere(const ArchivioDisegno& a) {
     daCercare = daCercare || (t.LinColore[r] > 0 && t.LinTipo[r] > 0);
   }
   std::unique_ptr<Griglia> griglia;
-  if (daCercare) griglia = std::make_unique<Griglia>(seg, normale);
+  if (daCercare) griglia = std::make_unique<Griglia>(seg, normale, latoCella);
   std::vector<std::int32_t> tutte;
 
   for (std::size_t i = 0; i < n; ++i) {
