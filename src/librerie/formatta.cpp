@@ -21,8 +21,16 @@ constexpr std::size_t kNo = std::string::npos;
 // every run of filling characters a command string can ask for.
 constexpr int kMassimoNumero = 999;
 
+// Position of a lower-case command prefix in a command string written in any case.
 std::size_t Trova(std::string_view comandi, std::string_view prefisso) {
-  return Minuscolo(comandi).find(prefisso);
+  if (prefisso.size() > comandi.size()) return kNo;
+  auto basso = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+  for (std::size_t i = 0; i + prefisso.size() <= comandi.size(); ++i) {
+    std::size_t k = 0;
+    while (k < prefisso.size() && basso(comandi[i + k]) == prefisso[k]) ++k;
+    if (k == prefisso.size()) return i;
+  }
+  return kNo;
 }
 
 // The number behind a command's four-character prefix, read the permissive way from at most
@@ -196,6 +204,36 @@ std::optional<Preparato> Prepara(double x, std::string_view comandi, double scal
   return r;
 }
 
+// The column cell of a number: what Formatta gives for "(FD_ww)" or "(FS_ww)", "(SC_|)" with
+// the separator and "(NP_1)" for an integer, at scale 1, taken straight through its steps
+// (no conversion, digits or decimals apply), since reports ask for millions of cells.
+std::string CellaNumero(double x, int w, bool destra, bool separatore, bool senzaPunto) {
+  std::string t = TestoNumero(x);
+  bool esponente = t.find_first_of("eE") != kNo;
+  int punto = 0;
+  if (!esponente) punto = PuntoDecimale(t);
+  // A plain text may turn into the exponent form and then be fitted as one, as in Formatta.
+  if ((!esponente && !AdattaPiano(t, x, punto, w, " ", esponente)) ||
+      (esponente && !AdattaEsponente(t, x, w))) {
+    t.assign(static_cast<std::size_t>(w), '*');
+    if (separatore) t += '|';
+    return t;
+  }
+  if (!destra) {
+    t = Rifila(t);
+    t += Blanchi(NumeroCaratteri(t), w);
+  }
+  if (senzaPunto) {
+    const std::size_t ultimo = t.find_last_not_of(" \t");
+    if (ultimo != kNo && t[ultimo] == '.') {
+      t[t.rfind('.')] = ' ';
+      if (destra) t = " " + TogliUltimoCarattere(t);
+    }
+  }
+  if (separatore) t += '|';
+  return t;
+}
+
 }  // namespace
 
 std::string Formatta(double valore, std::string_view comandi, double& scala,
@@ -324,18 +362,17 @@ std::string FormatoColonna(const ValoreColonna& valore, int larghezza, bool sepa
     if (separatore) t += "|";
     return t;
   }
+  const auto* intero = std::get_if<long long>(&valore);
+  const double numero = intero ? static_cast<double>(*intero) : std::get<double>(valore);
+  if (larghezza >= 2 && larghezza <= kMassimoNumero) {
+    return CellaNumero(numero, larghezza, destra, separatore, intero != nullptr);
+  }
   std::string w = std::to_string(std::abs(larghezza));
   if (w.size() < 2) w.insert(0, "0");
   if (larghezza < 0) w.insert(0, "-");
   std::string comandi = (destra ? "(FD_" : "(FS_") + w + ")";
   if (separatore) comandi += "(SC_|)";
-  double numero = 0;
-  if (const auto* intero = std::get_if<long long>(&valore)) {
-    comandi += "(NP_1)";
-    numero = static_cast<double>(*intero);
-  } else {
-    numero = std::get<double>(valore);
-  }
+  if (intero) comandi += "(NP_1)";
   double scala = 1;
   return Formatta(numero, comandi, scala, piattaforma);
 }

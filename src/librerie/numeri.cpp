@@ -112,11 +112,26 @@ std::string TestoQuindiciCifre(double valore) {
 }
 
 // The same text, found faster: when the shortest round-trip form of a normal double has at
-// most 15 significant digits, those are exactly the digits of the 15-digit form, so only the layout (plain digits
-// for exponents -4..14, exponent form otherwise) must follow the %g rule.
+// most 15 significant digits, those are exactly the digits of the 15-digit form, so only the layout
+// (plain digits for exponents -4..14, exponent form otherwise) must follow the %g rule.
 std::string TestoBreve(double valore) {
   // Below the normal range a double holds fewer than 15 digits and the rule does not hold.
   if (std::fpclassify(valore) != FP_NORMAL) return TestoQuindiciCifre(valore);
+  // Most numbers lie where the plain digits are the form: one conversion is enough there.
+  const double assoluto = std::fabs(valore);
+  if (assoluto >= 1e-4 && assoluto < 1e15) {
+    char fisso[40];
+    auto fine = std::to_chars(fisso, fisso + sizeof fisso, valore, std::chars_format::fixed).ptr;
+    int cifre = 0;
+    bool iniziato = false;
+    for (const char* c = fisso; c != fine; ++c) {
+      if (!Cifra(*c) || (!iniziato && *c == '0')) continue;
+      iniziato = true;
+      ++cifre;
+    }
+    if (cifre <= 15) return std::string(fisso, fine);
+    return TestoQuindiciCifre(valore);
+  }
   char buffer[40];
   auto fine =
       std::to_chars(buffer, buffer + sizeof buffer, valore, std::chars_format::scientific).ptr;
