@@ -108,8 +108,9 @@ Griglia::Griglia(const std::vector<Segmento>& seg, const std::vector<bool>& norm
   std::sort(voci_.begin(), voci_.end());
 }
 
-// Cells small enough to part the lines of a dense drawing, large enough that no more than a few
-// long lines cross too many of them and that the cells are not fewer than the lines.
+// Cells small enough to part the lines of a dense drawing; large enough that the cells are not
+// many more than the lines, that only a few long lines cross too many of them, and that all the
+// lines together are listed in no more than a few cells each.
 double Griglia::Lato(const std::vector<Segmento>& seg, const std::vector<bool>& normale) const {
   std::vector<double> mx, my, misura, fasce;
   for (std::size_t i = 0; i < seg.size(); ++i) {
