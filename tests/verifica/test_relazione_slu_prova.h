@@ -21,45 +21,13 @@ namespace qf17::prova {
 class RelazioneSLUPiccola : public ::testing::Test {
  protected:
   RelazioneSLUPiccola() {
-    Nodo& n = s.nodo;
-    n.DirLavoro = lavoro.percorso().string();
-    n.NomeFileNodo = " prova ";
+    NodoRelazionePiccolo(s, lavoro.percorso());
     p.relazione = file;
-    s.unita.UniForze = "N";
-    s.unita.FatForze = 10;
+    Nodo& n = s.nodo;
     s.unita.DecForze = 1;
-    s.unita.UniTensioni = "N/cm2";
-    s.unita.FatTensioni = 10;
-    s.unita.DecTensioni = 0;
     n.TipoVer = 1;
-    n.NumNodi = 2;
-    n.NomeNodi[1] = 12;
-    n.NomeNodi[2] = 7;
-
-    n.Corrente = ProfiloRelazione("UPN  200", 0, 200, 75, 8.5, 11.5);
-    n.Cor_teta = GradiInRadianti(-10);
-    n.Aste[1] = ProfiloRelazione("LU80x8", 1, 80, 80, 8, 8);
-    n.Aste[2] = ProfiloRelazione("LU60x6", 1, 60, 60, 6, 6);
-    n.Aste[3] = ProfiloRelazione("LU50x5", 1, 50, 50, 5, 5);
-    n.Ast_flag[1] = 1, n.Ast_flag[2] = 1, n.Ast_flag[3] = 0;
-    n.Ast_modo[1] = 1, n.Ast_modo[2] = 0, n.Ast_modo[3] = 2;
-    n.Ast_teta[1] = GradiInRadianti(45);
-    n.Ast_teta[2] = GradiInRadianti(120.256);  // the box shows 120.26
-    n.Ast_teta[3] = GradiInRadianti(150);
-    n.Ast_coeff[1] = 0.9, n.Ast_coeff[2] = 1, n.Ast_coeff[3] = 1;
-    n.Fz_a = 100, n.Fz_b = 50, n.Fz_c = 50, n.Fz_d = 100;  // length 300
-    n.Fz_e = 120, n.Fz_f = 80, n.Fz_g = 90, n.Fz_h = 100;  // width max(200, 190)
-    n.Fz_s = 10;
-
-    n.nBull[0] = 2, n.nBull[1] = 3, n.nBull[2] = 1, n.nBull[3] = 1;
-    BulloneRelazione(n, 0, 1, 50, 40, 16);
-    BulloneRelazione(n, 0, 2, 250, 40, 16);
-    BulloneRelazione(n, 1, 1, 30, 25, 16);
-    BulloneRelazione(n, 1, 2, 90, 25, 16);
+    n.nBull[1] = 3;
     BulloneRelazione(n, 1, 3, 150, 25, 16);
-    BulloneRelazione(n, 2, 1, 40, 30.5, 20);
-    BulloneRelazione(n, 3, 1, 20, 20, 12);
-
     n.acciaio.Nome = "S 275 JR";
     n.acciaio.fy = 2351.5625;
     n.acciaio.fy40 = 2152.1875;
@@ -67,13 +35,6 @@ class RelazioneSLUPiccola : public ::testing::Test {
     n.vite.Nome = "8.8";
     n.vite.ftViti = 8000;
     n.vite.gMViti = 1.25;
-
-    n.nSollAg = 2;
-    n.NomeSa[1] = "Vento\r\nsx";
-    n.NomeSa[2] = "Neve\rpiena\n";
-    n.SforzoNormale(1, 1) = 1234.5, n.SforzoNormale(2, 1) = -2000.25;
-    n.SforzoNormale(1, 2) = 0, n.SforzoNormale(2, 2) = 500;
-    n.SforzoNormale(3, 1) = 999, n.SforzoNormale(3, 2) = 999;
     RiempiRisultati();
   }
 

@@ -45,6 +45,53 @@ inline void BulloneRelazione(Nodo& n, int g, int k, double x, double y, double d
   n.FiBull(g, k) = d;
 }
 
+// The node both reports' small tests start from: a bolted chord and two members (C is switched
+// off but keeps data), two load sets; the job shows forces in N (x 10) and stresses in N/cm2
+// (x 10, no decimals), so that the reports' whole-unit rounding meets exact halves.
+inline void NodoRelazionePiccolo(Sessione& s, const fs::path& cartella) {
+  Nodo& n = s.nodo;
+  n.DirLavoro = cartella.string();
+  n.NomeFileNodo = " prova ";
+  s.unita.UniForze = "N";
+  s.unita.FatForze = 10;
+  s.unita.UniTensioni = "N/cm2";
+  s.unita.FatTensioni = 10;
+  s.unita.DecTensioni = 0;
+  n.NumNodi = 2;
+  n.NomeNodi[1] = 12;
+  n.NomeNodi[2] = 7;
+
+  n.Corrente = ProfiloRelazione("UPN  200", 0, 200, 75, 8.5, 11.5);
+  n.Cor_teta = GradiInRadianti(-10);
+  n.Aste[1] = ProfiloRelazione("LU80x8", 1, 80, 80, 8, 8);
+  n.Aste[2] = ProfiloRelazione("LU60x6", 1, 60, 60, 6, 6);
+  n.Aste[3] = ProfiloRelazione("LU50x5", 1, 50, 50, 5, 5);
+  n.Ast_flag[1] = 1, n.Ast_flag[2] = 1, n.Ast_flag[3] = 0;
+  n.Ast_modo[1] = 1, n.Ast_modo[2] = 0, n.Ast_modo[3] = 2;
+  n.Ast_teta[1] = GradiInRadianti(45);
+  n.Ast_teta[2] = GradiInRadianti(120.256);  // the box shows 120.26
+  n.Ast_teta[3] = GradiInRadianti(150);
+  n.Ast_coeff[1] = 0.9, n.Ast_coeff[2] = 1, n.Ast_coeff[3] = 1;
+  n.Fz_a = 100, n.Fz_b = 50, n.Fz_c = 50, n.Fz_d = 100;  // length 300
+  n.Fz_e = 120, n.Fz_f = 80, n.Fz_g = 90, n.Fz_h = 100;  // width max(200, 190)
+  n.Fz_s = 10;
+
+  n.nBull[0] = 2, n.nBull[1] = 2, n.nBull[2] = 1, n.nBull[3] = 1;
+  BulloneRelazione(n, 0, 1, 50, 40, 16);
+  BulloneRelazione(n, 0, 2, 250, 40, 16);
+  BulloneRelazione(n, 1, 1, 30, 25, 16);
+  BulloneRelazione(n, 1, 2, 90, 25, 16);
+  BulloneRelazione(n, 2, 1, 40, 30.5, 20);
+  BulloneRelazione(n, 3, 1, 20, 20, 12);
+
+  n.nSollAg = 2;
+  n.NomeSa[1] = "Vento\r\nsx";
+  n.NomeSa[2] = "Neve\rpiena\n";
+  n.SforzoNormale(1, 1) = 1234.5, n.SforzoNormale(2, 1) = -2000.25;
+  n.SforzoNormale(1, 2) = 0, n.SforzoNormale(2, 2) = 500;
+  n.SforzoNormale(3, 1) = 999, n.SforzoNormale(3, 2) = 999;
+}
+
 // A node with a bolted chord and two members (C is switched off but keeps data), two load sets
 // (the second of case II), and result tables as the checks would leave them. The job shows
 // forces in N (x 10) and stresses in N/cm2 (x 10, no decimals), so that the report's whole-unit
@@ -52,57 +99,17 @@ inline void BulloneRelazione(Nodo& n, int g, int k, double x, double y, double d
 class RelazioneTAPiccola : public ::testing::Test {
  protected:
   RelazioneTAPiccola() {
-    Nodo& n = s.nodo;
-    n.DirLavoro = lavoro.percorso().string();
-    n.NomeFileNodo = " prova ";
+    NodoRelazionePiccolo(s, lavoro.percorso());
     p.relazione = file;
-    s.unita.UniForze = "N";
-    s.unita.FatForze = 10;
-    s.unita.UniTensioni = "N/cm2";
-    s.unita.FatTensioni = 10;
-    s.unita.DecTensioni = 0;
-    n.NumNodi = 2;
-    n.NomeNodi[1] = 12;
-    n.NomeNodi[2] = 7;
-
-    n.Corrente = ProfiloRelazione("UPN  200", 0, 200, 75, 8.5, 11.5);
-    n.Cor_teta = GradiInRadianti(-10);
-    n.Aste[1] = ProfiloRelazione("LU80x8", 1, 80, 80, 8, 8);
-    n.Aste[2] = ProfiloRelazione("LU60x6", 1, 60, 60, 6, 6);
-    n.Aste[3] = ProfiloRelazione("LU50x5", 1, 50, 50, 5, 5);
-    n.Ast_flag[1] = 1, n.Ast_flag[2] = 1, n.Ast_flag[3] = 0;
-    n.Ast_modo[1] = 1, n.Ast_modo[2] = 0, n.Ast_modo[3] = 2;
-    n.Ast_teta[1] = GradiInRadianti(45);
-    n.Ast_teta[2] = GradiInRadianti(120.256);  // the box shows 120.26
-    n.Ast_teta[3] = GradiInRadianti(150);
-    n.Ast_coeff[1] = 0.9, n.Ast_coeff[2] = 1, n.Ast_coeff[3] = 1;
-    n.Fz_a = 100, n.Fz_b = 50, n.Fz_c = 50, n.Fz_d = 100;  // length 300
-    n.Fz_e = 120, n.Fz_f = 80, n.Fz_g = 90, n.Fz_h = 100;  // width max(200, 190)
-    n.Fz_s = 10;
-
-    n.nBull[0] = 2, n.nBull[1] = 2, n.nBull[2] = 1, n.nBull[3] = 1;
-    BulloneRelazione(n, 0, 1, 50, 40, 16);
-    BulloneRelazione(n, 0, 2, 250, 40, 16);
-    BulloneRelazione(n, 1, 1, 30, 25, 16);
-    BulloneRelazione(n, 1, 2, 90, 25, 16);
-    BulloneRelazione(n, 2, 1, 40, 30.5, 20);
-    BulloneRelazione(n, 3, 1, 20, 20, 12);
-
+    Nodo& n = s.nodo;
     n.acciaio.Nome = "S 235 (FE 360)";
     n.acciaio.SAmm = 1600.25;
     n.acciaio.SAmm40 = 1400.75;
     n.vite.Nome = "8.8";
     n.vite.SAmmViti = 2720.25;
     n.vite.TauAmmViti = 1500.75;
-
-    n.nSollAg = 2;
-    n.NomeSa[1] = "Vento\r\nsx";
-    n.NomeSa[2] = "Neve\rpiena\n";
     n.CasoCarico[1] = 0;
     n.CasoCarico[2] = 1;
-    n.SforzoNormale(1, 1) = 1234.5, n.SforzoNormale(2, 1) = -2000.25;
-    n.SforzoNormale(1, 2) = 0, n.SforzoNormale(2, 2) = 500;
-    n.SforzoNormale(3, 1) = 999, n.SforzoNormale(3, 2) = 999;
     RiempiRisultati();
   }
 
