@@ -79,7 +79,11 @@ double NumeroIniziale(std::string_view testo) {
 
 double ArrotondaPari(double valore, int decimali) {
   if (decimali == 0) return std::nearbyint(valore);
-  double scala = std::pow(10.0, decimali);
+  // Powers of ten up to 1E22 are exact doubles, the very values pow gives.
+  static constexpr double kPotenze[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                        1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                        1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  double scala = decimali > 0 && decimali <= 22 ? kPotenze[decimali] : std::pow(10.0, decimali);
   return std::nearbyint(valore * scala) / scala;
 }
 

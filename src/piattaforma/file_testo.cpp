@@ -82,6 +82,10 @@ std::string Utf8InCp1252(std::string_view testo) {
 }
 
 std::size_t NumeroCaratteri(std::string_view testo) {
+  // Plain ASCII, as every number is, has one character a byte.
+  bool ascii = true;
+  for (char c : testo) ascii = ascii && static_cast<unsigned char>(c) < 0x80;
+  if (ascii) return testo.size();
   std::size_t n = 0;
   for (std::size_t i = 0; i < testo.size(); ++n) ProssimoCarattere(testo, i);
   return n;
