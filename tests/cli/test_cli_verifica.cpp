@@ -123,6 +123,30 @@ TEST_F(RigaDiComandoVerifica, MetodoDelNodoOppureDellaRiga) {
             std::string::npos);
 }
 
+// DOPPIO's members break the limit-state pitch rules: answered OK the run goes on to a report;
+// with --annulla the last group's Cancel ends it silently, with no report.
+TEST_F(RigaDiComandoVerifica, AnnullaSugliAvvisiDiDisposizioneFineSilenziosa) {
+  const std::string nodo = Copia("DOPPIO");
+  const fs::path slu =
+      fs::path(QF17_INSTALLAZIONE) / "lavori" / "esempi" / ("RelSLU_QF17_" + nodo + ".txt");
+  relazioni_.push_back(slu);
+  const std::string avviso =
+      "ATTENZIONE!: L'interasse dei bulloni risulta difforme dalle prescrizioni delle NTC 2008 "
+      "(minore del limite) sull'asta C\n";
+
+  Esito e = Esegui("verifica " + Percorso(nodo) + " --metodo SLU --annulla");
+  EXPECT_EQ(e.stato, 2);
+  EXPECT_EQ(e.uscita, "");
+  EXPECT_NE(e.errori.find(avviso), std::string::npos) << e.errori;
+  EXPECT_EQ(e.errori.find("nodo non verificato"), std::string::npos) << e.errori;
+  EXPECT_FALSE(fs::exists(slu));
+
+  e = Esegui("verifica " + Percorso(nodo) + " --metodo SLU");
+  EXPECT_EQ(e.stato, 1);
+  EXPECT_NE(e.errori.find(avviso), std::string::npos) << e.errori;
+  EXPECT_EQ(e.uscita, slu.string() + "\n");
+}
+
 TEST_F(RigaDiComandoVerifica, AstaParallelaAlCorrenteEsito2ERelazioneIntatta) {
   // Member B turned to the chord's angle (0 degrees): the key keeps its 40-column layout.
   std::string testo = LeggiTutto(Esempio("ANGUPN"));
