@@ -8,24 +8,11 @@
 
 #include "nodo/sessione.h"
 #include "oracolo_bulloni_slu.h"
+#include "piattaforma_muta.h"
 #include "verifica/bulloni_slu.h"
 
 namespace qf17 {
 namespace {
-
-// Counts the boxes and shows none.
-class PiattaformaMuta : public Piattaforma {
- public:
-  Risposta Messaggio(const std::string&, const std::string&, Icona, Pulsanti) override {
-    ++messaggi;
-    return Risposta::Ok;
-  }
-  std::optional<FileScelto> ScegliFileDaAprire(const RichiestaFile&) override { return {}; }
-  std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile&) override { return {}; }
-  bool Avvia(const std::string&, const std::string&, bool) override { return true; }
-  void Occupato(bool) override {}
-  long messaggi = 0;
-};
 
 enum class Disposizione {
   Griglia,   // 200 rows of 10 bolts, 60 along and 40 across: a real large group

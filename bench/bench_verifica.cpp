@@ -10,26 +10,13 @@
 
 #include "nodo/sessione.h"
 #include "oracolo_sezioni.h"
+#include "piattaforma_muta.h"
 #include "verifica/fazzoletto.h"
 #include "verifica/profili.h"
 #include "verifica/sezioni_cache.h"
 
 namespace qf17 {
 namespace {
-
-// Counts the boxes and shows none.
-class PiattaformaMuta : public Piattaforma {
- public:
-  Risposta Messaggio(const std::string&, const std::string&, Icona, Pulsanti) override {
-    ++messaggi;
-    return Risposta::Ok;
-  }
-  std::optional<FileScelto> ScegliFileDaAprire(const RichiestaFile&) override { return {}; }
-  std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile&) override { return {}; }
-  bool Avvia(const std::string&, const std::string&, bool) override { return true; }
-  void Occupato(bool) override {}
-  long messaggi = 0;
-};
 
 enum class Disposizione {
   Griglia,  // rows 60 apart of 10 bolts 40 apart: what a real large group looks like
