@@ -13,17 +13,7 @@ TEST_F(RelazioneSLUPiccola, PiccolaBytePerByte) {
   ASSERT_TRUE(Esegui());
   EXPECT_EQ(Relazione(), Attesa());
 
-  ASSERT_EQ(p.messaggi.size(), 1u);
-  EXPECT_EQ(p.messaggi[0].testo, "ATTENZIONE: nodo non verificato!");
-  EXPECT_EQ(p.messaggi[0].titolo, "QF17 - NODO DI TRAVATURA RETICOLARE");
-  EXPECT_EQ(p.messaggi[0].icona, Icona::Attenzione);
-  EXPECT_EQ(p.messaggi[0].pulsanti, Pulsanti::Ok);
-  EXPECT_FALSE(p.fileAlMessaggio[0]) << "the message comes before the report is complete";
-
-  ASSERT_EQ(p.avvii.size(), 1u);
-  EXPECT_EQ(p.avvii[0].programma, "notepad.exe");
-  EXPECT_EQ(p.avvii[0].argomenti, file.string());
-  EXPECT_FALSE(p.avvii[0].attendi);
+  ControllaChiusuraNonVerificato(p, file);
 
   EXPECT_EQ(verdetti.SetOk, (std::vector<bool>{true, true, false}));
   EXPECT_TRUE(verdetti.NodoKo);

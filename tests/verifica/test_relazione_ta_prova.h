@@ -27,6 +27,22 @@ class PiattaformaRelazione : public PiattaformaRegistrata {
   std::vector<bool> fileAlMessaggio;
 };
 
+// The close of a report whose node failed, the same for both methods: the message comes up
+// before the report is complete, then the viewer is started on the report without waiting.
+inline void ControllaChiusuraNonVerificato(const PiattaformaRelazione& p, const fs::path& file) {
+  ASSERT_EQ(p.messaggi.size(), 1u);
+  EXPECT_EQ(p.messaggi[0].testo, "ATTENZIONE: nodo non verificato!");
+  EXPECT_EQ(p.messaggi[0].titolo, "QF17 - NODO DI TRAVATURA RETICOLARE");
+  EXPECT_EQ(p.messaggi[0].icona, Icona::Attenzione);
+  EXPECT_EQ(p.messaggi[0].pulsanti, Pulsanti::Ok);
+  EXPECT_FALSE(p.fileAlMessaggio[0]) << "the message comes before the report is complete";
+
+  ASSERT_EQ(p.avvii.size(), 1u);
+  EXPECT_EQ(p.avvii[0].programma, "notepad.exe");
+  EXPECT_EQ(p.avvii[0].argomenti, file.string());
+  EXPECT_FALSE(p.avvii[0].attendi);
+}
+
 inline Profilo ProfiloRelazione(const std::string& nome, std::int16_t tipo, double h, double b,
                                 double a, double e) {
   Profilo p;
