@@ -19,6 +19,9 @@ struct Opzioni {
                              // hole tolerance, threaded area off, arrows
       2, 6};                 // GRB text and dimension styles
   std::string NotaDisegno = "Nella dimensione dei fori non è conteggiata alcuna tolleranza";
+  // "Quote Saldature": the node view dimensions each member's welds. Set by the options form,
+  // never written to the file.
+  bool QuoteSaldature = false;
 
   double& operator[](int i);
   double operator[](int i) const;
