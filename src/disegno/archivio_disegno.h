@@ -78,6 +78,9 @@ class ArchivioDisegno {
   double OrigineX = 0, OrigineY = 0;
   std::int16_t ColoreCorrente = 0;  // colour of a circle drawn without one
   std::int16_t StileLinea = 0;      // 0 continuous, 1 dashed, 3 dash-dot
+  // Dimension texts that do not fit their line: QuotaAlterna (set by a chain) lets them go to
+  // the two sides in turn, QuotaAlternata tells that the last one went to the far side.
+  std::int16_t QuotaAlterna = 0, QuotaAlternata = 0;
 
   // Extents of the lines stored so far, on the sheet and in the frame of the chord.
   double EstMaxX = 0, EstMaxY = 0, EstMinX = 0, EstMinY = 0;
