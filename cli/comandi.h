@@ -29,6 +29,25 @@ void RegistraSollecitazioni(CLI::App& app, ComandoSoll& opzioni);
 int EseguiSollecitazioni(Sessione& sessione, const std::filesystem::path& file,
                          const ComandoSoll& opzioni);
 
+// "disegna NODO [--formato dis|svg] [-o FILE] [--opzioni FILE] [--quote-saldature]": composes
+// the executive sheet and writes it, by default in the job folder under the node's name.
+struct ComandoDisegna {
+  CLI::App* comando = nullptr;
+  std::string nodo;
+  std::string formato = "dis";
+  std::string uscita;       // empty: job folder, node name, the format's extension
+  std::string fileOpzioni;  // empty: the installation's options, read at start-up
+  bool quoteSaldature = false;
+};
+
+// Adds the subcommand to `app`; `opzioni` receives the parsed values and must outlive parsing.
+void RegistraDisegna(CLI::App& app, ComandoDisegna& opzioni);
+
+// Reads the options file if one was given, opens the node, composes and writes the sheet and
+// prints the file's path. 0 when written, 2 on any failure (the user was told).
+int EseguiDisegna(Sessione& sessione, const std::filesystem::path& file,
+                  const ComandoDisegna& opzioni);
+
 // "verifica NODO [--metodo TA] [--json FILE]": runs the verification as the button does, writes
 // the report in the job folder and prints its path. 0 when the node is verified, 1 when it is
 // not, 2 on an error or when the run ended without a report.

@@ -90,6 +90,8 @@ int main(int argc, char** argv) {
   nodo->add_option("NODO", ingresso, "File nodo .qf7")->required();
   ComandoSoll sollecitazioni;
   RegistraSollecitazioni(app, sollecitazioni);
+  ComandoDisegna disegna;
+  RegistraDisegna(app, disegna);
   std::string metodo, fileJson;
   auto* verifica = app.add_subcommand(
       "verifica",
@@ -116,6 +118,9 @@ int main(int argc, char** argv) {
       return ComandoVerifica(*sessione, FileNodo(*sessione, ingresso), metodo, fileJson);
     }
     if (*nodo) return Mostra(*sessione, ingresso);
+    if (*disegna.comando) {
+      return EseguiDisegna(*sessione, FileNodo(*sessione, disegna.nodo), disegna);
+    }
     if (*sollecitazioni.comando) {
       return EseguiSollecitazioni(*sessione, FileNodo(*sessione, sollecitazioni.nodo),
                                   sollecitazioni);

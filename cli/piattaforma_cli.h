@@ -18,6 +18,8 @@ class PiattaformaCli : public Piattaforma {
   std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) override;
   void Occupato(bool) override {}
+  // No other program's window is ever looked for from a terminal.
+  bool AttivaFinestra(const std::string&, const std::string&) override { return false; }
 
  private:
   bool annulla_;

@@ -17,6 +17,7 @@ struct RichiestaFile {
   std::string cartella;    // initial folder
   std::string nome;        // initial file name
   int indiceFiltro = 1;    // 1-based, as the family counts filters
+  int flag = 0;            // the family's dialog flags, for a desktop that honours them
 };
 
 struct FileScelto {
@@ -41,6 +42,12 @@ class Piattaforma {
   virtual bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) = 0;
   // The busy pointer, on while a long command runs.
   virtual void Occupato(bool acceso) = 0;
+  // Brings the running window with exactly this title to the front and sends it the keystrokes
+  // `tasti` ("^v" is Ctrl+V). False when there is no such window. A platform without windows of
+  // other programs never finds one.
+  virtual bool AttivaFinestra(const std::string& /*titolo*/, const std::string& /*tasti*/) {
+    return false;
+  }
 
   // Shorthand for the common OK box.
   void Avviso(const std::string& testo, const std::string& titolo, Icona icona = Icona::Nessuna) {

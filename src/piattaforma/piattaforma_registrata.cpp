@@ -35,6 +35,14 @@ bool PiattaformaRegistrata::Avvia(const std::string& programma, const std::strin
   return esito;
 }
 
+bool PiattaformaRegistrata::AttivaFinestra(const std::string& titolo, const std::string& tasti) {
+  finestreCercate.push_back({titolo, tasti});
+  if (finestreAperte.empty()) return false;
+  bool aperta = finestreAperte.front();
+  finestreAperte.pop_front();
+  return aperta;
+}
+
 void PiattaformaRegistrata::Occupato(bool acceso) {
   occupato = acceso;
   ++cambiOccupato;

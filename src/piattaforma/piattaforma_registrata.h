@@ -19,6 +19,10 @@ class PiattaformaRegistrata : public Piattaforma {
     Icona icona;
     Pulsanti pulsanti;
   };
+  struct FinestraCercata {
+    std::string titolo;
+    std::string tasti;
+  };
   struct AvvioVisto {
     std::string programma;
     std::string argomenti;
@@ -31,18 +35,22 @@ class PiattaformaRegistrata : public Piattaforma {
   std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) override;
   void Occupato(bool acceso) override;
+  bool AttivaFinestra(const std::string& titolo, const std::string& tasti) override;
 
   // Scripted answers, used in order; when a script runs dry, boxes answer OK, dialogs cancel and
   // programs start.
   std::deque<Risposta> risposte;
   std::deque<std::optional<FileScelto>> fileScelti;
   std::deque<bool> esitiAvvio;
+  // Whether each window looked for is running; when the script runs dry, none is.
+  std::deque<bool> finestreAperte;
   // Called when a program is "started", so a test can play the started tool.
   std::function<void(const AvvioVisto&)> suAvvio;
 
   std::vector<MessaggioVisto> messaggi;
   std::vector<RichiestaFile> richiesteFile;
   std::vector<AvvioVisto> avvii;
+  std::vector<FinestraCercata> finestreCercate;
   int cambiOccupato = 0;
   bool occupato = false;
 };

@@ -144,6 +144,8 @@ std::string Scrittore::Documento() const {
          "mm\" viewBox=\"" + x + " " + y + " " + w + " " + h + "\">\n";
   doc += "<rect x=\"" + x + "\" y=\"" + y + "\" width=\"" + w + "\" height=\"" + h +
          "\" fill=\"#ffffff\"/>\n";
+  // vector-effect is not inherited: a group cannot carry it for its elements.
+  doc += "<style>line,circle,path{vector-effect:non-scaling-stroke}</style>\n";
   doc += "<g fill=\"none\" stroke-width=\"" + std::string(kSpessoreSvg) +
          "\" stroke-linecap=\"round\" stroke-linejoin=\"round\">\n";
   doc += corpo_;

@@ -29,7 +29,9 @@ std::string_view ColoreSvg(std::int16_t indice);
 // and 3) have none.
 inline constexpr std::string_view kTrattoSvg = "6 3";            // type 4, dashed
 inline constexpr std::string_view kTrattoPuntoSvg = "12 3 2 3";  // type 1, dash-dot
-inline constexpr std::string_view kSpessoreSvg = "0.35";         // pen width, millimetres
+// Pens are one pixel wide however the preview is scaled (a viewer that ignores this draws them
+// one millimetre wide).
+inline constexpr std::string_view kSpessoreSvg = "1";
 
 // The SVG text of the session's drawing as it stands (the writer neither cleans nor changes
 // it): lines with their colours and dashes, circles and counter-clockwise arcs, texts as the

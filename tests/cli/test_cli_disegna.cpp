@@ -1,0 +1,96 @@
+// `qf17 disegna` run as a user runs it: the staged program on a copy of a sample node, named
+// with the process id so that the drawing it leaves in the installation's job folder is its own
+// and can be removed.
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+
+#include "supporto/cartella_prova.h"
+#include "supporto/esegui_programma.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using qf17::prova::Esito;
+using qf17::prova::LeggiTutto;
+
+// Where line `n` (from 0) of a text starts.
+std::size_t InizioRiga(const std::string& testo, int n) {
+  std::size_t inizio = 0;
+  for (int i = 0; i < n; ++i) inizio = testo.find('\n', inizio) + 1;
+  return inizio;
+}
+
+class RigaDiComandoDisegna : public ::testing::Test {
+ protected:
+  RigaDiComandoDisegna() {
+    fs::copy_file(fs::path(QF17_INSTALLAZIONE) / "lavori" / "esempi" / "ANGUPN.qf7", copia_);
+  }
+  ~RigaDiComandoDisegna() override {
+    std::error_code ec;
+    fs::remove(disegnoNelLavoro_, ec);
+  }
+
+  Esito Esegui(const std::string& argomenti) {
+    return qf17::prova::EseguiProgramma(cartella_, QF17_PROGRAMMA_STAGED,
+                                        "disegna '" + copia_.string() + "' " + argomenti);
+  }
+
+  qf17::prova::CartellaProva spazio_;
+  const fs::path cartella_ = spazio_.percorso();
+  const std::string nome_ = "ANGUPN_dis_" + std::to_string(::getpid());
+  const fs::path copia_ = cartella_ / (nome_ + ".qf7");
+  const fs::path disegnoNelLavoro_ =
+      fs::path(QF17_INSTALLAZIONE) / "lavori" / "esempi" / (nome_ + ".dis");
+};
+
+// Without -o the drawing goes to the job folder under the node's name; its path is printed.
+TEST_F(RigaDiComandoDisegna, DisNellaCartellaDelLavoro) {
+  Esito e = Esegui("");
+  EXPECT_EQ(e.stato, 0) << e.errori;
+  EXPECT_EQ(e.uscita, disegnoNelLavoro_.string() + "\n");
+  EXPECT_EQ(e.errori, "");
+  EXPECT_EQ(LeggiTutto(disegnoNelLavoro_).substr(0, 22), "                   4\r\n");
+}
+
+TEST_F(RigaDiComandoDisegna, SvgSulFileIndicato) {
+  const fs::path svg = cartella_ / "anteprima.svg";
+  Esito e = Esegui("--formato SVG -o '" + svg.string() + "' --quote-saldature");
+  EXPECT_EQ(e.stato, 0) << e.errori;
+  EXPECT_EQ(e.uscita, svg.string() + "\n");
+  EXPECT_EQ(LeggiTutto(svg).substr(0, 5), "<?xml");
+  EXPECT_FALSE(fs::exists(disegnoNelLavoro_));
+}
+
+TEST_F(RigaDiComandoDisegna, FormatoSconosciutoRifiutato) {
+  Esito e = Esegui("--formato dxf");
+  EXPECT_EQ(e.stato, 2);
+  EXPECT_NE(e.errori.find("--formato: dxf not in {dis,svg}"), std::string::npos) << e.errori;
+  EXPECT_EQ(e.uscita, "");
+  EXPECT_FALSE(fs::exists(disegnoNelLavoro_));
+}
+
+// An options file given on the command line replaces the installation's; a missing one stops
+// the command before anything is drawn.
+TEST_F(RigaDiComandoDisegna, FileOpzioni) {
+  const fs::path manca = cartella_ / "manca.txt";
+  Esito e = Esegui("--opzioni '" + manca.string() + "'");
+  EXPECT_EQ(e.stato, 2);
+  EXPECT_EQ(e.errori, "ERRORE: Errore: file " + manca.string() + " errato o mancante.\n");
+  EXPECT_FALSE(fs::exists(disegnoNelLavoro_));
+
+  // The installation's options with other texts 44 wide and 33 high (rows 10 and 9): the
+  // sheet's title is such a text, so its size line reads " 44  33 ".
+  std::string righe = LeggiTutto(fs::path(QF17_INSTALLAZIONE) / "custom" / "OpzioniQf7.txt");
+  const std::size_t riga9 = InizioRiga(righe, 9);
+  righe.replace(riga9, InizioRiga(righe, 11) - riga9, " 33 \r\n 44 \r\n");
+  const fs::path opzioni = spazio_.Scrivi("OpzioniQf7.txt", righe);
+  e = Esegui("--opzioni '" + opzioni.string() + "'");
+  EXPECT_EQ(e.stato, 0) << e.errori;
+  EXPECT_NE(LeggiTutto(disegnoNelLavoro_).find("\r\n 44  33 "), std::string::npos);
+}
+
+}  // namespace
