@@ -1,12 +1,31 @@
 #include "piattaforma_cli.h"
 
+#include <cstdio>
 #include <iostream>
 
 namespace qf17 {
 
+namespace {
+
+// A large node can give a warning per bolt and load set, a million lines: standard error gets
+// a buffer, so that a line is a copy and not a system call. The C library writes it out at exit,
+// and everything else the program says there goes through the same buffer, in order.
+void BufferizzaErrori() {
+  static const bool fatto = [] {
+    static char buffer[1 << 16];
+    std::setvbuf(stderr, buffer, _IOFBF, sizeof buffer);
+    std::cerr.unsetf(std::ios_base::unitbuf);
+    return true;
+  }();
+  (void)fatto;
+}
+
+}  // namespace
+
 Risposta PiattaformaCli::Messaggio(const std::string& testo, const std::string& titolo, Icona,
                                    Pulsanti pulsanti) {
-  std::cerr << titolo << ": " << testo << std::endl;
+  BufferizzaErrori();
+  std::cerr << titolo << ": " << testo << '\n';
   if (pulsanti == Pulsanti::OkAnnulla && annulla_) return Risposta::Annulla;
   return Risposta::Ok;
 }

@@ -74,6 +74,14 @@ TEST(Numeri, TestoNumeroComeLaFormaDiRiferimento) {
     ASSERT_EQ(TestoNumero(v), TestoNumeroRiferimento(v)) << std::hexfloat << v;
     ++provati;
   }
+  // Report figures: values rounded to a few decimals, of every size around the fast road's ends.
+  std::uniform_real_distribution<double> quota(-1.0, 1.0);
+  std::uniform_int_distribution<int> decimali(0, 8);
+  for (int i = 0; i < 200000; ++i) {
+    const double v =
+        ArrotondaPari(quota(caso) * std::pow(10.0, esponente(caso) / 3), decimali(caso));
+    ASSERT_EQ(TestoNumero(v), TestoNumeroRiferimento(v)) << std::hexfloat << v;
+  }
   for (double v : {1e-5, 1e-4, 0.00012345, 1e14, 999999999999999.0, 1e15, 1e16, 123456.5, 0.1 + 0.2,
                    1.0 / 3, 2.0 / 3, 9.9999999999999995e14, 5e-324, 1.7976931348623157e308}) {
     EXPECT_EQ(TestoNumero(v), TestoNumeroRiferimento(v)) << v;

@@ -58,7 +58,10 @@ class SetSLU {
         c_(r, s.piattaforma),
         j_(j),
         fatTens_(s.unita.FatTensioni),
-        fd_((n_.Fz_s <= 40 ? n_.acciaio.fy : n_.acciaio.fy40) / n_.acciaio.gM) {}
+        fd_((n_.Fz_s <= 40 ? n_.acciaio.fy : n_.acciaio.fy40) / n_.acciaio.gM),
+        si_(FormatoColonna(std::string("SI'"), kEsito, true, "R", s.piattaforma)),
+        no_(FormatoColonna(std::string("NO"), kEsito, true, "R", s.piattaforma)),
+        trattino_(FormatoColonna(std::string("-"), kRapporto, true, "R", s.piattaforma)) {}
 
   void Intestazione();
   void Bulloni();
@@ -71,7 +74,7 @@ class SetSLU {
  private:
   bool Presente(int g) const { return n_.Ast_flag[g] == 1; }
   void Esito(bool ok) {
-    c_.Testo(ok ? "SI'" : "NO", kEsito, "R").Fine();
+    c_.r() << (ok ? si_ : no_) << kFine;
     if (!ok) setOk_ = false;
   }
   void IntestazioneTensioni(const char* etichetta);
@@ -87,6 +90,8 @@ class SetSLU {
   double fatTens_;
   double fd_;  // design strength of the gusset by its thickness, daN/cm2
   bool setOk_ = true;
+  // Cells that every bolt row repeats, made once.
+  const std::string si_, no_, trattino_;
 };
 
 void SetSLU::Intestazione() {
@@ -112,7 +117,8 @@ void SetSLU::GruppoBulloni(int g, const std::string& titolo) {
     rapporto = ArrotondaPari(rapporto, 2);
     c_.Cella(static_cast<long long>(k), kNumBullone).Cella(Forza(ris_.FedBull(g, k, j_)), kForza);
     c_.Cella(Forza(ris_.FvRd(g, k)), kForza).Cella(Forza(ris_.FbRd(g, k)), kForza);
-    c_.Cella(rapporto, kRapporto).Testo("-", kRapporto, "R");
+    c_.Cella(rapporto, kRapporto);
+    c_.r() << trattino_;
     Esito(rapporto <= 1);
   }
 }
