@@ -44,6 +44,7 @@ FormOpzioni FormDaOpzioni(const Opzioni& opzioni) {
   for (int i : kCaselle) form.Par_Nodo[static_cast<std::size_t>(i)] = TestoNumero(opzioni[i]);
   form.Par_Nodo[15] = TestoNumero(opzioni[19]);
   form.CheckQuote = opzioni[15] != 0;
+  form.QuoteCh = opzioni.QuoteSaldature;
   form.CheckDistinta = opzioni[18] != 0;
   form.CheckAresBull = opzioni[26] != 0;
   form.QuoteBull1 = opzioni[24] == 1;

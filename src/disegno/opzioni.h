@@ -32,6 +32,7 @@ struct FormOpzioni {
   // Boxes Par_Nodo(0..15), (21), (23), (25), (28), (29); the other rows are not boxes.
   std::array<std::string, 30> Par_Nodo{};
   bool CheckQuote = false;
+  bool QuoteCh = false;  // "Quote Saldature": mirrors the session's QuoteSaldature
   bool CheckDistinta = false;
   bool CheckAresBull = false;
   bool QuoteBull1 = false;  // "Disegna quote" chosen rather than "Disegna tabella coordinate"
@@ -44,7 +45,8 @@ struct FormOpzioni {
 // and row 19 box 15. A number beyond any range in a box is an ErroreFatale.
 Opzioni LeggiOpzioniForm(const FormOpzioni& form, const Opzioni& attuali);
 
-// The form filled from the table, as it is shown when it opens.
+// The form filled from the table (and "Quote Saldature" from the session's flag), as it is shown
+// when it opens.
 FormOpzioni FormDaOpzioni(const Opzioni& opzioni);
 
 }  // namespace qf17

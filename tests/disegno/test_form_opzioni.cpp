@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "disegno/file_opzioni.h"
+#include "disegno/form_opzioni.h"
+#include "nodo/esempi_nodo.h"
+#include "nodo/file_nodo.h"
+#include "nodo/sessione.h"
+#include "piattaforma/piattaforma_registrata.h"
+#include "supporto/cartella_prova.h"
+
+namespace qf17 {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FormOpzioniTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    fs::create_directories(custom);
+    s.cartelle.custom = custom.string();
+  }
+
+  PiattaformaRegistrata p;
+  Sessione s{p};
+  prova::CartellaProva cartella;
+  const fs::path custom = cartella.percorso() / "custom";
+};
+
+// "Quote" and "Quote Saldature": each row starts from a state of the two boxes (the session's
+// flag as the form left it), changes one box, and ends with both boxes, the flag and whether
+// "Quote Saldature" may be ticked.
+TEST_F(FormOpzioniTest, QuoteEQuoteSaldatureLegate) {
+  struct Caso {
+    const char* nome;
+    bool quote, saldature;  // before
+    bool cambiaQuote;       // which box changes: "Quote" or "Quote Saldature"
+    bool valore;
+    bool quoteDopo, saldatureDopo, abilitato;
+  };
+  const Caso casi[] = {
+      {"togliere Quote toglie Saldature", true, true, true, false, false, false, false},
+      {"mettere Quote lascia Saldature", false, false, true, true, true, false, true},
+      {"mettere Saldature mette Quote", false, false, false, true, true, true, true},
+      {"togliere Saldature lascia Quote", true, true, false, false, true, false, true},
+  };
+  for (const Caso& c : casi) {
+    FormOpzioni f;
+    f.CheckQuote = c.quote;
+    f.QuoteCh = c.saldature;
+    s.opzioni.QuoteSaldature = c.saldature;
+    if (c.cambiaQuote) {
+      ImpostaCheckQuote(f, s, c.valore);
+    } else {
+      ImpostaQuoteCh(f, s, c.valore);
+    }
+    EXPECT_EQ(f.CheckQuote, c.quoteDopo) << c.nome;
+    EXPECT_EQ(f.QuoteCh, c.saldatureDopo) << c.nome;
+    EXPECT_EQ(s.opzioni.QuoteSaldature, c.saldatureDopo) << c.nome;
+    EXPECT_EQ(QuoteChAbilitato(f), c.abilitato) << c.nome;
+  }
+}
+
+// The flag follows its box at once: cancelling the form keeps it, while the table stays.
+TEST_F(FormOpzioniTest, AnnullaLasciaLaTabellaMaNonIlFlagDelleSaldature) {
+  FormOpzioni f = ApriFormOpzioni(s);
+  EXPECT_FALSE(f.QuoteCh);
+  f.Par_Nodo[7] = "3";
+  ImpostaQuoteCh(f, s, true);
+  Annulla(f, s);
+  EXPECT_EQ(s.opzioni[7], 8);
+  EXPECT_TRUE(s.opzioni.QuoteSaldature);
+  EXPECT_TRUE(ApriFormOpzioni(s).QuoteCh);
+}
+
+TEST_F(FormOpzioniTest, ChiudiCopiaIlForm) {
+  FormOpzioni f = ApriFormOpzioni(s);
+  f.Par_Nodo[7] = "7.5";
+  f.Par_Nodo[13] = "12abc";
+  f.Par_Nodo[15] = "";
+  f.NotaFori = "  Fori alesati  ";
+  Chiudi(f, s);
+  EXPECT_EQ(s.opzioni[7], 7.5);
+  EXPECT_EQ(s.opzioni[13], 12);
+  EXPECT_EQ(s.opzioni[17], 12);
+  EXPECT_EQ(s.opzioni[19], 0);
+  EXPECT_EQ(s.opzioni.NotaDisegno, "Fori alesati");
+  EXPECT_TRUE(p.messaggi.empty());
+}
+
+// Saving writes what the form holds and what the table keeps outside it (rows 16 and 22); read
+// back, 22 is the program's 20 again and 17 is 13's copy even when the file says otherwise.
+TEST_F(FormOpzioniTest, SalvaERileggi) {
+  s.opzioni[16] = 7;
+  s.opzioni[22] = 35;
+  FormOpzioni f = ApriFormOpzioni(s);
+  f.Par_Nodo[13] = "12.5";
+  f.Par_Nodo[25] = "-1";
+  ASSERT_TRUE(Def(f, s));
+  EXPECT_TRUE(p.messaggi.empty());
+
+  const fs::path file = custom / "OpzioniQf7.txt";
+  std::string testo = prova::LeggiTutto(file);
+  // Rows 13 to 17 and 22 as written, list-print form, CR LF.
+  EXPECT_NE(testo.find("\r\n 12.5 \r\n 5 \r\n 1 \r\n 7 \r\n 12.5 \r\n 1 \r\n"), std::string::npos);
+  EXPECT_NE(testo.find("\r\n 35 \r\n 70 \r\n 1 \r\n-1 \r\n"), std::string::npos);
+  EXPECT_NE(testo.find("\r\nNella dimensione dei fori non \xe8 conteggiata alcuna tolleranza\r\n"),
+            std::string::npos);
+
+  // Row 17 (the 18th line) changed by hand.
+  const std::size_t riga17 = testo.find("\r\n 12.5 \r\n 1 \r\n");
+  ASSERT_NE(riga17, std::string::npos);
+  testo.replace(riga17, 10, "\r\n 3 \r\n");
+  cartella.Scrivi("custom/OpzioniQf7.txt", testo);
+
+  Opzioni letto;
+  ASSERT_TRUE(LeggiOpzioni(letto, file));
+  EXPECT_EQ(letto[22], 20);
+  EXPECT_EQ(letto[17], 12.5);
+  EXPECT_EQ(letto[13], 12.5);
+  EXPECT_EQ(letto[16], 7);
+  EXPECT_EQ(letto[25], -1);
+}
+
+TEST_F(FormOpzioniTest, SalvaFallitoDiceIlFile) {
+  s.cartelle.custom = (cartella.percorso() / "manca").string();
+  FormOpzioni f = ApriFormOpzioni(s);
+  f.Par_Nodo[7] = "9";
+  EXPECT_FALSE(Def(f, s));
+  EXPECT_EQ(s.opzioni[7], 9);  // the table took the form all the same
+  ASSERT_EQ(p.messaggi.size(), 1u);
+  EXPECT_EQ(p.messaggi[0].testo,
+            "Errore: file " + s.cartelle.custom + "\\OpzioniQf7.txt errato o mancante.");
+  EXPECT_EQ(p.messaggi[0].titolo, "ERRORE");
+}
+
+// "Applica" takes the form and shows the sheet at once: nodo.dis is written and the viewer
+// started, the form still open.
+TEST_F(FormOpzioniTest, ApplicaMostraIlDisegno) {
+  ASSERT_TRUE(prova::CaricaLibrerieInstallazione(s));
+  ASSERT_TRUE(ApriNodoDaFile(s, prova::CartellaEsempi() / "ANGUPN.qf7"));
+  const fs::path progra = cartella.percorso() / "progra";
+  fs::create_directories(progra);
+  s.cartelle.progra = progra.string();
+  p.messaggi.clear();
+
+  FormOpzioni f = ApriFormOpzioni(s);
+  f.Par_Nodo[23] = "90";
+  Applica(f, s);
+  EXPECT_EQ(s.opzioni[23], 90);
+  EXPECT_TRUE(fs::exists(progra / "nodo.dis"));
+  ASSERT_EQ(p.avvii.size(), 1u);
+  EXPECT_EQ(p.avvii[0].programma, (progra / "grafview.exe").string());
+  EXPECT_TRUE(p.messaggi.empty());
+}
+
+}  // namespace
+}  // namespace qf17
