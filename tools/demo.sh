@@ -28,3 +28,11 @@ done
 echo
 echo "== Relazione di ANGUPN"
 tr -d '\r' < "$lavoro/RelTA_QF17_ANGUPN.txt"
+echo
+# The executive sheet: the DIS file the family's viewer opens, and a preview for a browser.
+for formato in dis svg; do
+  echo "== qf17 disegna DOPPIO.qf7 --formato $formato"
+  "$qf17" disegna DOPPIO.qf7 --formato "$formato"
+done
+echo "   $(sed -n 5p "$lavoro/DOPPIO.dis" | tr -d '\r ') coordinates; head of the DIS file:"
+head -4 "$lavoro/DOPPIO.dis" | tr -d '\r'
