@@ -21,41 +21,14 @@ void AvvisoLimiteDisegno(Piattaforma& p, std::string_view testo) {
   p.Messaggio(std::string(testo), std::string(kTitoloLimiteDisegno), Icona::Nessuna, Pulsanti::Ok);
 }
 
-ArchivioDisegno::ArchivioDisegno(const ArchivioDisegno& altro)
-    : DestinazioneDisegno(altro.DestinazioneDisegno),
-      OrigineX(altro.OrigineX),
-      OrigineY(altro.OrigineY),
-      ColoreCorrente(altro.ColoreCorrente),
-      StileLinea(altro.StileLinea),
-      EstMaxX(altro.EstMaxX),
-      EstMaxY(altro.EstMaxY),
-      EstMinX(altro.EstMinX),
-      EstMinY(altro.EstMinY),
-      RuotMaxX(altro.RuotMaxX),
-      RuotMaxY(altro.RuotMaxY),
-      RuotMinX(altro.RuotMinX),
-      RuotMinY(altro.RuotMinY),
-      NumCoord(altro.NumCoord),
-      NumLinee(altro.NumLinee),
-      NumPunti(altro.NumPunti),
-      NumArchi(altro.NumArchi),
-      NumTesti(altro.NumTesti) {
-  if (altro.tabelle_) tabelle_ = std::make_unique<TabelleDisegno>(*altro.tabelle_);
-}
-
-ArchivioDisegno& ArchivioDisegno::operator=(const ArchivioDisegno& altro) {
-  if (this != &altro) *this = ArchivioDisegno(altro);
-  return *this;
-}
-
 TabelleDisegno& ArchivioDisegno::Tabelle() {
-  if (!tabelle_) tabelle_ = std::make_unique<TabelleDisegno>();
-  return *tabelle_;
+  if (!tabelle_.get()) tabelle_.Crea();
+  return *tabelle_.get();
 }
 
 const TabelleDisegno& ArchivioDisegno::Tabelle() const {
-  if (!tabelle_) tabelle_ = std::make_unique<TabelleDisegno>();
-  return *tabelle_;
+  if (!tabelle_.get()) tabelle_.Crea();
+  return *tabelle_.get();
 }
 
 void AzzeraDisegno(ArchivioDisegno& a) {
@@ -64,6 +37,8 @@ void AzzeraDisegno(ArchivioDisegno& a) {
   a.NumPunti = 0;
   a.NumArchi = 0;
   a.NumTesti = 0;
+  a.NumQuote = 0;
+  a.NumPoligoni = 0;
 }
 
 void AzzeraEstensioni(ArchivioDisegno& a) {

@@ -17,6 +17,7 @@ inline constexpr int kUltimaLinea = 50000;
 inline constexpr int kUltimoArco = 15000;
 inline constexpr int kUltimoTesto = 15000;
 inline constexpr int kUltimoPunto = 5000;
+inline constexpr int kUltimaQuota = 1000;  // dimension entities of the GRB sheet
 
 // Two coordinates closer than this in both X and Y are the same point; a line no longer than this
 // in both X and Y is no line.
@@ -54,6 +55,40 @@ struct TabelleDisegno {
   Tabella<std::int16_t, 0, kUltimoTesto> TestoLarghezza, TestoAltezza;  // tenths of a millimetre
   Tabella<std::int16_t, 0, kUltimoTesto> TestoColore;
   Tabella<std::string, 0, kUltimoTesto> TestoStringa;
+  // GRB texts only: where the anchor sits on the text (1 middle, 2 end, other start); their
+  // TestoColore holds the text style.
+  Tabella<std::int16_t, 0, kUltimoTesto> TestoAllineamento;
+
+  // Dimension entities of the GRB sheet: the two measured points, "H", "V" or "P", the style,
+  // the offset of the dimension line from the points, and the text ("Stringa_di_default" lets
+  // the reader write the measure).
+  Tabella<std::int16_t, 0, kUltimaQuota> QuotaP1, QuotaP2;
+  Tabella<std::string, 0, kUltimaQuota> QuotaTipo;
+  Tabella<std::int16_t, 0, kUltimaQuota> QuotaStile;
+  Tabella<double, 0, kUltimaQuota> QuotaScost;
+  Tabella<std::string, 0, kUltimaQuota> QuotaTesto;
+};
+
+// An owning pointer whose copy copies what it points to, so that a class holding one keeps its
+// default copy: every field is copied without being listed.
+template <class T>
+class CopiaProfonda {
+ public:
+  CopiaProfonda() = default;
+  CopiaProfonda(const CopiaProfonda& altro)
+      : p_(altro.p_ ? std::make_unique<T>(*altro.p_) : nullptr) {}
+  CopiaProfonda& operator=(const CopiaProfonda& altro) {
+    if (this != &altro) p_ = altro.p_ ? std::make_unique<T>(*altro.p_) : nullptr;
+    return *this;
+  }
+  CopiaProfonda(CopiaProfonda&&) = default;
+  CopiaProfonda& operator=(CopiaProfonda&&) = default;
+
+  T* get() const { return p_.get(); }
+  void Crea() { p_ = std::make_unique<T>(); }
+
+ private:
+  std::unique_ptr<T> p_;
 };
 
 // The one in-memory drawing: what composition writes through the primitives and the writers
@@ -62,17 +97,11 @@ struct TabelleDisegno {
 // content, which a line of an unknown style inherits.
 class ArchivioDisegno {
  public:
-  ArchivioDisegno() = default;
-  ArchivioDisegno(const ArchivioDisegno& altro);
-  ArchivioDisegno& operator=(const ArchivioDisegno& altro);
-  ArchivioDisegno(ArchivioDisegno&&) = default;
-  ArchivioDisegno& operator=(ArchivioDisegno&&) = default;
-
   TabelleDisegno& Tabelle();
   // Made on first use here too: fresh tables read as zeros and empty strings, which is what a
   // reader of untouched rows would find anyway.
   const TabelleDisegno& Tabelle() const;
-  bool HaTabelle() const { return tabelle_ != nullptr; }
+  bool HaTabelle() const { return tabelle_.get() != nullptr; }
 
   std::string DestinazioneDisegno;  // "gendis" while composition fills the tables
   double OrigineX = 0, OrigineY = 0;
@@ -91,9 +120,11 @@ class ArchivioDisegno {
   std::int32_t NumPunti = 0;
   std::int32_t NumArchi = 0;
   std::int32_t NumTesti = 0;
+  std::int16_t NumQuote = 0;     // GRB dimension entities
+  std::int16_t NumPoligoni = 0;  // room kept by the GRB format, never filled
 
  private:
-  mutable std::unique_ptr<TabelleDisegno> tabelle_;
+  mutable CopiaProfonda<TabelleDisegno> tabelle_;
 };
 
 // The box of a table that fills up: OK only, and the drawing goes on.

@@ -292,6 +292,7 @@ TEST_F(ArchivioDisegnoTest, TestiOltreLaTabellaSonoUnErrore) {
 TEST_F(ArchivioDisegnoTest, AzzeraDisegnoTieneLeRigheECopiaLeTabelle) {
   DisegnaLinea(s, 0, 0, 5, 5, 3);
   ScriviTesto(s, "t", 0, 0, 0, 1, 1);
+  a.QuotaAlternata = 1;  // working state travels with the copy too
   ArchivioDisegno copia = a;
   AzzeraDisegno(a);
   EXPECT_EQ(a.NumCoord + a.NumLinee + a.NumTesti, 0);
@@ -299,6 +300,7 @@ TEST_F(ArchivioDisegnoTest, AzzeraDisegnoTieneLeRigheECopiaLeTabelle) {
   t.LinColore[0] = 9;
   EXPECT_EQ(copia.NumLinee, 1);
   EXPECT_EQ(copia.Tabelle().LinColore[0], 3);
+  EXPECT_EQ(copia.QuotaAlternata, 1);
 }
 
 }  // namespace
