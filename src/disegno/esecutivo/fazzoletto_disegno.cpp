@@ -28,18 +28,6 @@ namespace {
 
 // Holes closer than this along an axis share one station of the chain.
 constexpr double kStessaQuota = kTolleranzaDisegno;
-// QuotaCatena takes a list of at most this many points; longer chains go in pieces.
-constexpr std::size_t kPuntiCatena = 10;
-
-void Catena(Tavola& t, const std::vector<Punto>& punti, double fattore) {
-  for (std::size_t inizio = 0; inizio + 1 < punti.size(); inizio += kPuntiCatena - 1) {
-    const std::size_t fine = std::min(punti.size(), inizio + kPuntiCatena);
-    QuotaCatena(t,
-                std::vector<Punto>(punti.begin() + static_cast<std::ptrdiff_t>(inizio),
-                                   punti.begin() + static_cast<std::ptrdiff_t>(fine)),
-                fattore);
-  }
-}
 
 // Sorted values without repeats.
 std::vector<double> Distinti(std::vector<double> valori) {
@@ -189,8 +177,8 @@ void Dettaglio::Catene() {
     std::vector<Punto> lungo, alto;
     for (const double x : Distinti(xs)) lungo.push_back({x, yCatena});
     for (const double y : Distinti(ys)) alto.push_back({xCatena, y});
-    Catena(t_, lungo, 1 / k_);
-    Catena(t_, alto, 1 / k_);
+    QuotaCatena(t_, lungo, 1 / k_);
+    QuotaCatena(t_, alto, 1 / k_);
     box_.Aggiungi({piastra_.minX, yCatena - fascia});
     box_.Aggiungi({xCatena - fascia, piastra_.minY});
     yCatena -= passo;

@@ -1,0 +1,272 @@
+// The composed sheet of the sample nodes: title, where the gusset and chord details go, the
+// tables switched on and off, the welded chord, and the hole numbers against the table.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "composizione_prova.h"
+#include "disegno/esecutivo/composizione.h"
+#include "disegno/esecutivo/fazzoletto_disegno.h"
+#include "disegno/esecutivo/stato_esecutivo.h"
+#include "librerie/numeri.h"
+#include "nodo/esempi_nodo.h"
+#include "piattaforma/file_testo.h"
+#include "piattaforma/piattaforma_registrata.h"
+
+namespace qf17 {
+namespace {
+
+using prova::ChiamataTavola;
+using prova::Richiesta;
+
+TEST(TitoloEsecutivo, NumeriDeiNodi) {
+  struct Caso {
+    std::vector<int> nodi;
+    std::string titolo;
+  };
+  const Caso casi[] = {
+      {{}, "ESECUTIVO NODI"},
+      {{12, 14}, "ESECUTIVO NODI: 12,14"},
+      {{7}, "ESECUTIVO NODI: 7"},
+      {{-3, 0, 1200}, "ESECUTIVO NODI: -3,0,1200"},
+  };
+  for (const Caso& c : casi) {
+    PiattaformaRegistrata p;
+    Sessione s(p);
+    s.nodo.NumNodi = static_cast<std::int16_t>(c.nodi.size());
+    for (std::size_t i = 0; i < c.nodi.size(); ++i) {
+      s.nodo.NomeNodi[static_cast<int>(i) + 1] = static_cast<std::int16_t>(c.nodi[i]);
+    }
+    EXPECT_EQ(TitoloEsecutivo(s), c.titolo);
+  }
+}
+
+class Composizione : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(prova::CaricaLibrerieInstallazione(s_));
+    for (auto& e : prova::EsempiNodo(s_)) esempi_[e.file] = e.nodo;
+  }
+  void Componi(const std::string& file) {
+    ASSERT_EQ(esempi_.count(file), 1u) << file;
+    s_.nodo = esempi_[file];
+    prova::PreparaDisegno(s_);
+    t_ = std::make_unique<prova::TavolaComposizione>(s_);
+    ComponiEsecutivo(*t_, *stato_);
+  }
+  const ChiamataTavola* Chiamata(const std::string& testo) const {
+    for (const auto& c : t_->chiamate) {
+      if (c.testo == testo) return &c;
+    }
+    return nullptr;
+  }
+
+  PiattaformaRegistrata p_;
+  Sessione s_{p_};
+  std::map<std::string, Nodo> esempi_;
+  std::unique_ptr<prova::TavolaComposizione> t_;
+  std::unique_ptr<StatoEsecutivo> stato_ = std::make_unique<StatoEsecutivo>();
+};
+
+// The title is centred on the sheet's extents: on the views alone without the tables, further
+// right with them, since they stand right of every view. The note follows 2 text heights lower.
+TEST_F(Composizione, TitoloCentratoConESenzaDistinta) {
+  double xTitolo[2];
+  for (int distinta : {0, 1}) {
+    SCOPED_TRACE(distinta);
+    s_.opzioni[18] = distinta;
+    Componi("ANGUPN.qf7");
+    const ChiamataTavola* titolo = Chiamata("ESECUTIVO NODI");
+    ASSERT_NE(titolo, nullptr);
+    // The title's own segment does not move the X extents: they are still those of the views.
+    const ArchivioDisegno& d = s_.disegno;
+    const double centro = (d.EstMaxX + d.EstMinX) / 2;
+    EXPECT_DOUBLE_EQ(titolo->x1, centro - 1);
+    EXPECT_DOUBLE_EQ(titolo->x2, centro + 1);
+    EXPECT_EQ(titolo->y1, titolo->y2);
+    EXPECT_EQ(titolo->origineX, 0);
+    EXPECT_EQ(titolo->origineY, 0);
+    EXPECT_EQ(titolo->classe, ClasseTesto::Testi);
+    EXPECT_EQ(titolo->colore, 1);
+    const ChiamataTavola* nota = Chiamata(s_.opzioni.NotaDisegno);
+    ASSERT_NE(nota, nullptr);
+    EXPECT_DOUBLE_EQ(nota->x1, centro - 1);
+    EXPECT_DOUBLE_EQ(nota->y1, titolo->y1 - 2 * 10);
+    EXPECT_EQ(t_->TestiDistinta().empty(), distinta == 0);
+    EXPECT_EQ(Chiamata("Prof.") != nullptr, distinta == 1);
+    xTitolo[distinta] = titolo->x1;
+  }
+  EXPECT_GT(xTitolo[1], xTitolo[0] + 100);
+}
+
+// The box a stored text covers: its cell of width x characters by height, turned round its
+// anchor.
+struct Scatola {
+  double minX = 1e300, maxX = -1e300, minY = 1e300, maxY = -1e300;
+};
+Scatola ScatolaTesto(const ArchivioDisegno& a, int i) {
+  const TabelleDisegno& t = a.Tabelle();
+  const double x = t.CoordX[t.TestoPunto[i]], y = t.CoordY[t.TestoPunto[i]];
+  const double l =
+      static_cast<double>(NumeroCaratteri(t.TestoStringa[i])) * t.TestoLarghezza[i] / 10;
+  const double h = t.TestoAltezza[i] / 10.0;
+  const double an = t.TestoAngolo[i] * 3.14159265358979 / 180;
+  Scatola b;
+  for (const Punto p : {Punto{0, 0}, Punto{l, 0}, Punto{0, h}, Punto{l, h}}) {
+    const double px = x + p.x * std::cos(an) - p.y * std::sin(an);
+    const double py = y + p.x * std::sin(an) + p.y * std::cos(an);
+    b.minX = std::min(b.minX, px);
+    b.maxX = std::max(b.maxX, px);
+    b.minY = std::min(b.minY, py);
+    b.maxY = std::max(b.maxY, py);
+  }
+  return b;
+}
+bool SiToccano(const Scatola& a, const Scatola& b) {
+  return a.minX < b.maxX && b.minX < a.maxX && a.minY < b.maxY && b.minY < a.maxY;
+}
+
+// The title and the note overlap no text of the views, though the texts of the topmost chain
+// stand above the extents, which count lines only.
+TEST_F(Composizione, TitoloENotaNonCopronoAltriTesti) {
+  for (const char* file : {"ANGUPN.qf7", "DOPPIO.qf7", "HEASALD.qf7", "MOLTESOLL.qf7"}) {
+    SCOPED_TRACE(file);
+    s_.opzioni[18] = 0;
+    Componi(file);
+    const ArchivioDisegno& a = s_.disegno;
+    const TabelleDisegno& t = a.Tabelle();
+    std::vector<int> testata;
+    for (int i = 0; i < a.NumTesti; ++i) {
+      if (t.TestoStringa[i].starts_with("ESECUTIVO NODI") ||
+          t.TestoStringa[i] == s_.opzioni.NotaDisegno) {
+        testata.push_back(i);
+      }
+    }
+    ASSERT_EQ(testata.size(), 2u);
+    for (int i = 0; i < a.NumTesti; ++i) {
+      if (i == testata[0] || i == testata[1]) continue;
+      for (int j : testata) {
+        EXPECT_FALSE(SiToccano(ScatolaTesto(a, i), ScatolaTesto(a, j)))
+            << t.TestoStringa[i] << " / " << t.TestoStringa[j];
+      }
+    }
+  }
+}
+
+TEST_F(Composizione, TitoloConINumeriDeiNodi) {
+  Componi("MOLTESOLL.qf7");
+  EXPECT_NE(Chiamata("ESECUTIVO NODI: 127,128"), nullptr);
+}
+
+// The gusset detail under the node view: left on the view's left end and lower by
+// E + H + 3 x 20 + 10 (twice that with the gusset above the chord) + 2 x 70; the chord's strip
+// detail right of it, lower than the view by 2 x 70 + H.
+TEST_F(Composizione, PostoDeiDettagli) {
+  struct Caso {
+    const char* file;
+    double discesaFazzoletto;
+    double discesaCorrente;  // 0: no strip detail
+  };
+  const Caso casi[] = {
+      // UPN160 chord, gusset 250 deep below it: 250 + 160 + 70 + 140.
+      {"ANGUPN.qf7", 620, 140 + 160},
+      // HEA200 chord, welded: 300 + 190 + 70 + 140, and no strip detail.
+      {"HEASALD.qf7", 700, 0},
+  };
+  for (const Caso& c : casi) {
+    SCOPED_TRACE(c.file);
+    Componi(c.file);
+    const ChiamataTavola* fazzoletto = Chiamata("PARTICOLARE FAZZOLETTO");
+    ASSERT_NE(fazzoletto, nullptr);
+    EXPECT_DOUBLE_EQ(fazzoletto->origineX, stato_->XminN);
+    EXPECT_DOUBLE_EQ(fazzoletto->origineY, stato_->YminN - c.discesaFazzoletto);
+    const ChiamataTavola* corrente = Chiamata("PARTICOLARE FORATURA DEL CORRENTE");
+    if (c.discesaCorrente == 0) {
+      EXPECT_EQ(corrente, nullptr);
+      continue;
+    }
+    ASSERT_NE(corrente, nullptr);
+    EXPECT_DOUBLE_EQ(corrente->origineY, stato_->YminN - c.discesaCorrente);
+    // Right of the gusset detail by the distance between views.
+    auto solo = std::make_unique<StatoEsecutivo>();
+    prova::PreparaDisegno(s_);
+    DettaglioFazzoletto(*t_, *solo);
+    EXPECT_DOUBLE_EQ(corrente->origineX, stato_->XminN + solo->LargF + 70);
+  }
+}
+
+// A welded chord: no weld table and no chord strip detail; a bolted one has both.
+TEST_F(Composizione, CorrenteSaldatoSenzaTabellaSaldature) {
+  struct Caso {
+    const char* file;
+    bool bullonato;
+  };
+  for (const Caso& c : {Caso{"HEASALD.qf7", false}, Caso{"ANGUPN.qf7", true}}) {
+    SCOPED_TRACE(c.file);
+    Componi(c.file);
+    EXPECT_EQ(Chiamata("Sald.") != nullptr, c.bullonato);
+    EXPECT_EQ(Chiamata("PARTICOLARE FORATURA DEL CORRENTE") != nullptr, c.bullonato);
+    EXPECT_NE(Chiamata("N. bull."), nullptr);
+    EXPECT_NE(Chiamata("N. fazz."), nullptr);
+  }
+}
+
+// Each number written beside a hole of the gusset detail is the row of the coordinate table
+// that gives that hole's position from the table's origin (the node's point on the chord's
+// axis) and its diameter; every row is written once. DOPPIO has a turned chord and an opposite
+// pair; the multiplier 2 doubles the drawing, not the figures.
+TEST_F(Composizione, NumeriDelDettaglioComeLaTabella) {
+  for (double k : {1.0, 2.0}) {
+    SCOPED_TRACE(k);
+    s_.opzioni[24] = 0;
+    s_.opzioni[21] = k;
+    Componi("DOPPIO.qf7");
+    // The table: the cells after the heading "n°", four a row.
+    std::map<std::string, std::vector<std::string>> righe;
+    const auto celle = t_->TestiDistinta();
+    auto inizio = std::find(celle.begin(), celle.end(), "n°");
+    ASSERT_NE(inizio, celle.end());
+    for (auto it = inizio + 4; it + 3 < celle.end() + 0 && it != celle.end(); it += 4) {
+      righe[*it] = {*(it + 1), *(it + 2), *(it + 3)};
+    }
+    const Nodo& n = s_.nodo;
+    int fori = 0;
+    for (int g = 0; g <= 3; ++g) fori += n.nBull[g] * (g > 0 && n.Ast_modo[g] == 2 ? 2 : 1);
+    ASSERT_EQ(righe.size(), static_cast<std::size_t>(fori));
+
+    const ChiamataTavola* titolo = Chiamata("PARTICOLARE FAZZOLETTO");
+    ASSERT_NE(titolo, nullptr);
+    const Punto origine{titolo->origineX + (n.Fz_a + n.Fz_b) * k, titolo->origineY};
+    const auto cerchi = prova::Cerchi(s_.disegno);
+    int trovati = 0;
+    for (const ChiamataTavola& c : t_->Di(Richiesta::Testo)) {
+      if (c.classe != ClasseTesto::Quote || c.origineY != titolo->origineY) continue;
+      SCOPED_TRACE(c.testo);
+      // The number stands at the upper right of its hole's circle.
+      const prova::CerchioLetto* foro = nullptr;
+      for (const auto& f : cerchi) {
+        if (std::abs(f.centro.x + f.raggio - (c.x1 + c.origineX)) < 1e-6 &&
+            std::abs(f.centro.y + f.raggio - (c.y1 + c.origineY)) < 1e-6) {
+          foro = &f;
+        }
+      }
+      ASSERT_NE(foro, nullptr);
+      ASSERT_EQ(righe.count(c.testo), 1u);
+      const auto& riga = righe[c.testo];
+      EXPECT_NEAR(NumeroIniziale(riga[0]), (foro->centro.x - origine.x) / k, 0.05 + 1e-9);
+      EXPECT_NEAR(NumeroIniziale(riga[1]), (foro->centro.y - origine.y) / k, 0.05 + 1e-9);
+      EXPECT_NEAR(NumeroIniziale(riga[2]), 2 * foro->raggio / k, 1e-9);
+      ++trovati;
+    }
+    EXPECT_EQ(trovati, fori);
+  }
+}
+
+}  // namespace
+}  // namespace qf17
