@@ -1,0 +1,153 @@
+#pragma once
+
+// What the profile drawing tests share: a sheet that records its texts and dimensions, and
+// readers of the drawing store.
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "disegno/archivio_disegno.h"
+#include "disegno/esecutivo/tavola.h"
+#include "nodo/sessione.h"
+#include "piattaforma/piattaforma_registrata.h"
+#include "verifica/geometria.h"
+
+namespace qf17::prova {
+
+// A dimension or a centred text as the module asked for it.
+struct ChiamataQuota {
+  std::string testo;
+  double x1, x2, y1, y2, distanza, fattore;
+  bool soloTesto;  // TestoCentrato
+  ClasseTesto classe;
+  std::int16_t colore;
+};
+
+struct ChiamataTesto {
+  std::string testo;
+  double x, y;
+  ClasseTesto classe;
+  std::int16_t colore;
+};
+
+// Texts 10 wide and 10 high of every kind; nothing goes to the store but lines and circles.
+class TavolaProfili : public Tavola {
+ public:
+  using Tavola::Tavola;
+  double Larghezza(ClasseTesto) const override { return 10; }
+  double Altezza(ClasseTesto) const override { return 10; }
+  void Quota(const std::string& testo, double x1, double x2, double y1, double y2, double distanza,
+             double fattore) override {
+    quote.push_back({testo, x1, x2, y1, y2, distanza, fattore, false, ClasseTesto::Quote, -2});
+  }
+  void TestoCentrato(const std::string& testo, double x1, double x2, double y1, double y2,
+                     double distanza, ClasseTesto classe, std::int16_t colore) override {
+    quote.push_back({testo, x1, x2, y1, y2, distanza, 0, true, classe, colore});
+  }
+  void Testo(const std::string& testo, double x, double y, std::int16_t, ClasseTesto classe,
+             std::int16_t colore) override {
+    testi.push_back({testo, x, y, classe, colore});
+  }
+
+  std::vector<ChiamataQuota> quote;
+  std::vector<ChiamataTesto> testi;
+};
+
+// A session drawing into an empty store, with its sheet.
+struct DisegnoProva {
+  DisegnoProva() {
+    s.disegno.DestinazioneDisegno = "gendis";
+    AzzeraDisegno(s.disegno);
+    AzzeraEstensioni(s.disegno);
+  }
+  PiattaformaRegistrata p;
+  Sessione s{p};
+  TavolaProfili t{s};
+};
+
+struct LineaLetta {
+  Punto a, b;
+  std::int16_t colore, tipo;
+};
+
+inline std::vector<LineaLetta> Linee(const Sessione& s) {
+  const TabelleDisegno& t = s.disegno.Tabelle();
+  std::vector<LineaLetta> linee;
+  for (int i = 0; i < s.disegno.NumLinee; ++i) {
+    linee.push_back({{t.CoordX[t.LinP1[i]], t.CoordY[t.LinP1[i]]},
+                     {t.CoordX[t.LinP2[i]], t.CoordY[t.LinP2[i]]},
+                     t.LinColore[i],
+                     t.LinTipo[i]});
+  }
+  return linee;
+}
+
+struct ArcoLetto {
+  Punto centro, inizio, fine;
+  std::int16_t colore;
+  double Diametro() const { return 2 * Modulo(inizio - centro); }
+};
+
+inline std::vector<ArcoLetto> Archi(const Sessione& s) {
+  const TabelleDisegno& t = s.disegno.Tabelle();
+  std::vector<ArcoLetto> archi;
+  for (int i = 0; i < s.disegno.NumArchi; ++i) {
+    archi.push_back({{t.CoordX[t.ArcCentro[i]], t.CoordY[t.ArcCentro[i]]},
+                     {t.CoordX[t.ArcInizio[i]], t.CoordY[t.ArcInizio[i]]},
+                     {t.CoordX[t.ArcFine[i]], t.CoordY[t.ArcFine[i]]},
+                     t.ArcColore[i]});
+  }
+  return archi;
+}
+
+inline bool Vicini(Punto a, Punto b, double tolleranza = 1e-6) {
+  return std::abs(a.x - b.x) < tolleranza && std::abs(a.y - b.y) < tolleranza;
+}
+
+// How many strokes (line ends and arc ends) meet at each distinct point, points within 1E-6.
+inline std::vector<std::pair<Punto, int>> GradiVertici(const std::vector<LineaLetta>& linee,
+                                                       const std::vector<ArcoLetto>& archi) {
+  std::vector<std::pair<Punto, int>> gradi;
+  const auto conta = [&](Punto p) {
+    for (auto& [q, n] : gradi) {
+      if (Vicini(p, q)) {
+        ++n;
+        return;
+      }
+    }
+    gradi.push_back({p, 1});
+  };
+  for (const LineaLetta& l : linee) {
+    conta(l.a);
+    conta(l.b);
+  }
+  for (const ArcoLetto& a : archi) {
+    conta(a.inizio);
+    conta(a.fine);
+  }
+  return gradi;
+}
+
+// Lines on one straight line that share more than a point: one edge drawn twice.
+inline bool Sovrapposte(const LineaLetta& l, const LineaLetta& m) {
+  const Punto d = l.b - l.a;
+  const double lunghezza = Modulo(d);
+  if (lunghezza < 1e-9) return false;
+  const Punto u = (1 / lunghezza) * d;
+  const auto fuori = [&](Punto p) {
+    const Punto r = p - l.a;
+    return std::abs(r.x * u.y - r.y * u.x);
+  };
+  if (fuori(m.a) > 1e-6 || fuori(m.b) > 1e-6) return false;
+  const auto lungo = [&](Punto p) { return (p.x - l.a.x) * u.x + (p.y - l.a.y) * u.y; };
+  const double m0 = std::min(lungo(m.a), lungo(m.b));
+  const double m1 = std::max(lungo(m.a), lungo(m.b));
+  return std::min(m1, lunghezza) - std::max(m0, 0.0) > 1e-6;
+}
+
+}  // namespace qf17::prova
