@@ -173,6 +173,13 @@ TEST_F(FazzolettoDisegno, CateneInMillimetriVeri) {
     };
     ASSERT_EQ(misure.size(), attese.size());
     for (std::size_t i = 0; i < attese.size(); ++i) EXPECT_NEAR(misure[i], attese[i], 1e-9) << i;
+    // What the sheet reads, the title apart.
+    std::vector<std::string> testi;
+    const TabelleDisegno& d = s_.disegno.Tabelle();
+    for (int i = 0; i < s_.disegno.NumTesti; ++i) testi.push_back(d.TestoStringa[i]);
+    EXPECT_EQ(testi,
+              (std::vector<std::string>{"100", "600", "100", "280.5", "50", "79.5", "380", "420",
+                                        "30", "50", "330", "PARTICOLARE FAZZOLETTO"}));
   }
 }
 

@@ -156,33 +156,40 @@ void Dettaglio::Fori() {
 }
 
 // Chains over the distinct hole positions, from the plate's edges, one pair for each group
-// so that close holes of different members do not crowd one chain: along X under the plate and
-// along Y at its left, each group's further out, in true millimetres.
+// so that close holes of different members do not crowd one chain: along X under the plate,
+// along Y at the plate's end nearer to the group's holes, each group's further out, in true
+// millimetres.
 void Dettaglio::Catene() {
   // A text stands o[13] from its line, or as far on the other side when staggered.
   const double fascia = o_[13] + o_[7];
   const double passo = 2 * fascia + o_[7];
+  const double mezzo = (piastra_.minX + piastra_.maxX) / 2;
   double yCatena = piastra_.minY - o_[22] - fascia;
-  double xCatena = piastra_.minX - o_[22] - fascia;
+  double xSinistra = piastra_.minX - o_[22] - fascia;
+  double xDestra = piastra_.maxX + o_[22] + fascia;
   for (const int g : GruppiForiFazzoletto(s_)) {
     const int gruppo = GruppoBulloni(g);
     if (n_.nBull[gruppo] == 0) continue;
     std::vector<double> xs{piastra_.minX, piastra_.maxX};
     std::vector<double> ys{piastra_.minY, piastra_.maxY};
+    double somma = 0;
     for (int k = 1; k <= n_.nBull[gruppo]; ++k) {
       const Punto c = Foglio({stato_.ForoX(g, k), stato_.ForoY(g, k)});
       xs.push_back(c.x);
       ys.push_back(c.y);
+      somma += c.x - mezzo;
     }
+    const bool destra = g != 0 && somma > 0;
+    double& xCatena = destra ? xDestra : xSinistra;
     std::vector<Punto> lungo, alto;
     for (const double x : Distinti(xs)) lungo.push_back({x, yCatena});
     for (const double y : Distinti(ys)) alto.push_back({xCatena, y});
     QuotaCatena(t_, lungo, 1 / k_);
     QuotaCatena(t_, alto, 1 / k_);
     box_.Aggiungi({piastra_.minX, yCatena - fascia});
-    box_.Aggiungi({xCatena - fascia, piastra_.minY});
+    box_.Aggiungi({xCatena + (destra ? fascia : -fascia), piastra_.minY});
     yCatena -= passo;
-    xCatena -= passo;
+    xCatena += destra ? passo : -passo;
   }
 }
 
