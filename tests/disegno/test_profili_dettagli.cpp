@@ -199,5 +199,44 @@ TEST(ProfiliDettagli, SezioneDellAngolareConIFori) {
   EXPECT_NEAR(d.s.disegno.EstMaxY, 70, 1e-9);
 }
 
+// An I chord is welded: no strip, no holes, and its section hangs below the origin that the
+// composition leaves at the node view's bottom.
+TEST(ProfiliDettagli, SezioneDelCorrenteDoppioTSottoLOrigine) {
+  DisegnoProva d;
+  Nodo& n = d.s.nodo;
+  n.Corrente.Nome = "HEA200";
+  n.Corrente.Tipo = 2, n.Corrente.h = 190, n.Corrente.b = 200, n.Corrente.a = 6.5;
+  n.Corrente.e = 10, n.Corrente.r1 = 18;
+  n.nBull[0] = 1;
+  n.xBull(0, 1) = 100, n.yBull(0, 1) = 50, n.FiBull(0, 1) = 20;
+  StatoEsecutivo stato;
+  SezioneConFori(d.t, stato, 0);
+  const auto linee = prova::Linee(d.s);
+  EXPECT_EQ(linee.size(), 12u);
+  for (const auto& l : linee) EXPECT_EQ(l.colore, 3);
+  EXPECT_NEAR(d.s.disegno.EstMinX, 0, 1e-9);
+  EXPECT_NEAR(d.s.disegno.EstMaxX, 200, 1e-9);
+  EXPECT_NEAR(d.s.disegno.EstMinY, -190, 1e-9);
+  EXPECT_NEAR(d.s.disegno.EstMaxY, 0, 1e-9);
+}
+
+// An opposed pair's section stacks the second profile over the first (60 + 10 + 60): the
+// strip's title goes 20 above that.
+TEST(ProfiliDettagli, TitoloSopraLaCoppiaOpposta) {
+  DisegnoProva d;
+  Nodo& n = d.s.nodo;
+  n.Aste[3].Nome = "LU60x6";
+  n.Aste[3].Tipo = 1, n.Aste[3].h = 60, n.Aste[3].b = 60, n.Aste[3].a = 6, n.Aste[3].e = 6;
+  n.Aste[3].dBarX = 16.9;
+  n.Ast_modo[3] = static_cast<std::int16_t>(AstModo::Opposta);
+  n.Ast_ins[3] = 100;
+  n.Fz_s = 10;
+  StatoEsecutivo stato;
+  DettaglioForiAsta(d.t, stato, 3);
+  ASSERT_EQ(d.t.testi.size(), 1u);
+  EXPECT_EQ(d.t.testi[0].testo, "PARTICOLARE FORATURA DELL'ASTA C");
+  EXPECT_TRUE(Vicini({d.t.testi[0].x, d.t.testi[0].y}, {0, 150}));
+}
+
 }  // namespace
 }  // namespace qf17

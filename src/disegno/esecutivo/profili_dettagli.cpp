@@ -98,7 +98,12 @@ void Striscia(Tavola& t, StatoEsecutivo& stato, int gruppo, const Profilo& p,
   const double fine = lunghezza + std::abs(0.15 * lunghezza);
   const double distacco = s.opzioni[22];
 
-  t.Testo(titolo, 0, larghezza + distacco, 0, ClasseTesto::Testi, Colore(s, 5));
+  // The section beside the strip of an opposed pair stands its second profile above the first:
+  // the title goes over both.
+  const bool opposta =
+      gruppo != 0 && n.Ast_modo[gruppo] == static_cast<std::int16_t>(AstModo::Opposta);
+  const double cima = opposta ? 2 * larghezza + n.Fz_s * k : larghezza;
+  t.Testo(titolo, 0, cima + distacco, 0, ClasseTesto::Testi, Colore(s, 5));
 
   const double yAsse = AltezzaAsse(p, k);
   profili::Linea(s, {inizio, yAsse}, {fine, yAsse}, Colore(s, 1), profili::kTrattoPunto);
@@ -115,7 +120,7 @@ void Striscia(Tavola& t, StatoEsecutivo& stato, int gruppo, const Profilo& p,
   const double testi = s.opzioni[9];
   const double yNota = -distacco - s.opzioni[13] - s.opzioni[7] - 1.5 * testi;
   stato.LargF = fine + distacco - (inizio - distacco - s.opzioni[13] - s.opzioni[7]);
-  stato.AltF = larghezza + distacco + testi - (yNota - 1.5 * testi);
+  stato.AltF = cima + distacco + testi - (yNota - 1.5 * testi);
   if (n.nBull[gruppo] < 1) return;
   if (s.opzioni[24] == 1) Catene(t, gruppo, p, lunghezza, inizio, fine);
   t.Testo(NotaFori(s, gruppo), inizio, yNota, 0, ClasseTesto::Testi, Colore(s, 5));

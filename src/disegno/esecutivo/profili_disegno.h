@@ -68,15 +68,18 @@ std::string NotaFori(const Sessione& s, int gruppo);
 std::string NotaBulloni(const Sessione& s, int gruppo);
 
 // "PARTICOLARE FORATURA DEL CORRENTE" at the drawing's origin: the strip from -0.15 L to 1.15 L
-// along x, its width (the section's height) from y = 0 to h up, holes, chains and notes. Sets
-// LargF and AltF to the detail's width and height.
+// along x, its width (the section's height h) from y = 0 up, holes, chains and notes; the title
+// 20 (option 22) over the top, the notes below the chains. Sets LargF and AltF to the detail's
+// width and height, chains, title and notes included.
 void DettaglioForiCorrente(Tavola& t, StatoEsecutivo& stato);
-// "PARTICOLARE FORATURA DELL'ASTA " and the member's letter; `asta` 1..3. The same layout.
+// "PARTICOLARE FORATURA DELL'ASTA " and the member's letter; `asta` 1..3. The same layout; for
+// a member of mode 2 the title stands over the section's second profile (2 h + s).
 void DettaglioForiAsta(Tavola& t, StatoEsecutivo& stato, int asta);
 // The section of the chord (asta 0) or of a member with its holes seen across the profile, at
-// the drawing's origin to the right of the strip drawn there (at x = 0 for a chord of kind 2,
-// which has no strip), its height along y as in the strip. A pair (the chord, a double member)
-// shows both profiles; a member of mode 2 its second profile above the first.
+// the drawing's origin to the right of the strip drawn there, its height along y as in the
+// strip. A pair (the chord, a double member) shows both profiles; a member of mode 2 its second
+// profile above the first. A chord of kind 2 has no strip and no holes: its section hangs below
+// the origin from x = 0.
 void SezioneConFori(Tavola& t, StatoEsecutivo& stato, int asta);
 
 // Weld ticks along (x1, y1)-(x2, y2), `angolo` the line's direction (Direzione): one tick at

@@ -60,9 +60,9 @@ void SezioneConFori(Tavola& t, StatoEsecutivo& stato, int asta) {
   s.disegno.ColoreCorrente = Colore(s, 2);
   s.disegno.StileLinea = profili::kContinua;
   if (p.Tipo == static_cast<std::int16_t>(TipoProfilo::DoppioT)) {
-    // Only a chord is an I or H section here, welded to the gusset: no strip, no holes.
-    const double x = asta == 0 ? 0 : LunghezzaStriscia(s, asta) * 1.15 + s.opzioni[22];
-    DisegnaSezione(t, p, x + p.b * k / 2, 0, 0, k, 1);
+    // Only a chord is an I or H section here, welded to the gusset: no strip and no holes, and
+    // the section hangs below the origin, which stays at the node view's bottom.
+    DisegnaSezione(t, p, p.b * k / 2, -p.h * k, 0, k, 1);
     return;
   }
   const double lunghezza = LunghezzaStriscia(s, asta);
