@@ -240,6 +240,39 @@ TEST_F(FazzolettoDisegno, ContornoDellaPiastra) {
   }
 }
 
+// Where the member and the chord lie on the plate, dashed in the section colour: the member's
+// two edges (x = 20 and -50, 400 + x on the detail) from its end at -210 down to the plate's
+// lower side at -330, its end, and the chord's edge at -80 across the plate.
+TEST_F(FazzolettoDisegno, TracceDelleAste) {
+  Prepara(90);
+  Dettaglio(1);
+  struct Tratto {
+    Punto a, b;
+  };
+  const Tratto attesi[] = {
+      {{420, -210}, {420, -330}},
+      {{350, -210}, {350, -330}},
+      {{420, -210}, {350, -210}},
+      {{0, -80}, {800, -80}},
+  };
+  const ArchivioDisegno& a = s_.disegno;
+  const TabelleDisegno& d = a.Tabelle();
+  auto vicino = [](Punto p, Punto q) { return std::hypot(p.x - q.x, p.y - q.y) < 1e-6; };
+  for (const Tratto& t : attesi) {
+    int trovati = 0;
+    for (int i = 0; i < a.NumLinee; ++i) {
+      const Punto p{d.CoordX[d.LinP1[i]], d.CoordY[d.LinP1[i]]};
+      const Punto q{d.CoordX[d.LinP2[i]], d.CoordY[d.LinP2[i]]};
+      if ((vicino(p, t.a) && vicino(q, t.b)) || (vicino(p, t.b) && vicino(q, t.a))) {
+        ++trovati;
+        EXPECT_EQ(d.LinTipo[i], 4);
+        EXPECT_EQ(d.LinColore[i], 3);
+      }
+    }
+    EXPECT_EQ(trovati, 1) << t.a.x << " " << t.a.y << " - " << t.b.x << " " << t.b.y;
+  }
+}
+
 TEST(FazzolettoTagliaContorno, IncrocioSulLato) {
   struct Caso {
     Punto a1, a2, b1, b2;

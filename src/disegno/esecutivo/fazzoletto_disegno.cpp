@@ -15,16 +15,15 @@
 #include "disegno/esecutivo/stato_esecutivo.h"
 #include "disegno/esecutivo/tavola.h"
 #include "librerie/numeri.h"
-#include "librerie/token.h"
 #include "nodo/sessione.h"
 #include "piattaforma/file_testo.h"
 #include "verifica/comuni.h"
 
 namespace qf17 {
 
-inline constexpr char kTitoloFazzoletto[] = "PARTICOLARE FAZZOLETTO";
-
 namespace {
+
+constexpr char kTitoloFazzoletto[] = "PARTICOLARE FAZZOLETTO";
 
 // Holes closer than this along an axis share one station of the chain.
 constexpr double kStessaQuota = kTolleranzaDisegno;
