@@ -72,13 +72,27 @@ std::string Fisso(double x, int decimali) {
   return std::string(buffer.data(), fine);
 }
 
+// The digits of |r| to `decimali` places, trailing zeros of the decimals left out. A value that
+// was just rounded to at most six places below 1E+9 lies closer to its shortest text than half
+// a unit of the last place, so that text is already the answer, without a second conversion.
+std::string CifreFisse(double assoluto, int decimali) {
+  if (decimali <= 6 && assoluto < 1e9) {
+    std::string breve = TestoNumero(assoluto);
+    if (breve.find('E') == kNo) {
+      const std::size_t p = breve.find('.');
+      if (p == kNo || breve.size() - p - 1 <= static_cast<std::size_t>(decimali)) return breve;
+    }
+  }
+  return Fisso(assoluto, decimali);
+}
+
 // The runtime's digit places "###" or "###.##": every digit of the integer part but no lone
 // zero before the point, the decimals without trailing zeros, the point kept when asked for.
 std::string PostiCifra(double x, bool punto, int decimali) {
   if (!std::isfinite(x)) return TestoNumero(x);
   if (!punto) decimali = 0;
   const double r = ArrotondaDecimali(x, decimali);
-  std::string cifre = Fisso(std::fabs(r), decimali);
+  std::string cifre = CifreFisse(std::fabs(r), decimali);
   std::size_t p = cifre.find('.');
   std::string intero = cifre.substr(0, p);
   std::string decimi = p == kNo ? std::string() : cifre.substr(p + 1);

@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <random>
 #include <string>
 
 #include "librerie/formatta.h"
+#include "librerie/numeri.h"
 #include "piattaforma/piattaforma_registrata.h"
 
 namespace qf17 {
@@ -50,6 +52,37 @@ TEST(FormatoColonna, NumeriComeFormatta) {
         << v << " w " << w << (destra ? " R" : " L") << (intero ? " intero" : "");
   }
   EXPECT_TRUE(p.messaggi.empty());
+}
+
+// Fitting a number into fewer places rounds it and then takes its fixed digits; below 1E+9 and
+// up to six places the shortest text of the rounded value stands for those digits (trailing
+// zeros aside). Checked here against the fixed conversion itself.
+TEST(FormatoColonna, TestoBreveComeCifreFisse) {
+  std::mt19937_64 caso(11);
+  std::uniform_int_distribution<int> esponente(-5, 9), decimali(0, 6);
+  int confrontati = 0;
+  for (int i = 0; i < 300000; ++i) {
+    const int d = decimali(caso);
+    const double grezzo =
+        static_cast<double>(caso() % 1000000007) / 1e6 * std::pow(10.0, esponente(caso) - 3);
+    const double r = std::fabs(ArrotondaPari(grezzo, d));
+    if (r >= 1e9) continue;
+    const std::string breve = TestoNumero(r);
+    if (breve.find('E') != std::string::npos) continue;
+    const std::size_t punto = breve.find('.');
+    if (punto != std::string::npos && breve.size() - punto - 1 > static_cast<std::size_t>(d))
+      continue;
+    char buffer[64];
+    auto fine = std::to_chars(buffer, buffer + sizeof buffer, r, std::chars_format::fixed, d).ptr;
+    std::string fisso(buffer, fine);
+    if (fisso.find('.') != std::string::npos) {
+      while (fisso.back() == '0') fisso.pop_back();
+      if (fisso.back() == '.') fisso.pop_back();
+    }
+    ASSERT_EQ(breve, fisso) << std::hexfloat << r << " d " << d;
+    ++confrontati;
+  }
+  EXPECT_GT(confrontati, 200000);
 }
 
 }  // namespace
