@@ -22,7 +22,8 @@ inline int GruppoBulloni(int g) {
 // Plate coordinates of bolt group `gruppo` (0 chord, 1..3 members) into row `gruppo` of ForoX /
 // ForoY, or row `gruppo` + 3 for the mirrored profile (`segno` -1). The frame is the chord's:
 // X along the chord from the point where the member axes meet it, Y across from its gravity
-// axis, positive on the side given by the gusset position.
+// axis, both as the node view shows them once turned to bring the chord level (a gusset under
+// the chord has negative Y).
 void CoordinateFori(const Sessione& s, StatoEsecutivo& stato, int gruppo, double segno = 1);
 
 // Numbers the holes continuously, chord first, then A, B, C (each followed by its mirrored
@@ -37,8 +38,9 @@ void MarcaOrigine(Tavola& t, double x, double y, double angolo);
 
 // "PARTICOLARE FAZZOLETTO" at the drawing's origin: outline, chord axis, member traces, holes,
 // and either the hole chains or the hole numbers with the table's axes. The plate's left end is
-// at x = 0 and the chord's axis at y = 0. Sets LargF and AltF. Needs the hole coordinates
-// (NumeraFori, or CoordinateFori for each group).
+// at x = 0 and the chord's axis at y = 0. Works out the hole coordinates itself; the numbers
+// are those NumeraFori gave. Sets LargF and AltF to the size of all it drew. Needs the node
+// geometry.
 void DettaglioFazzoletto(Tavola& t, StatoEsecutivo& stato);
 
 }  // namespace qf17
