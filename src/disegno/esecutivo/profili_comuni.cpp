@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "disegno/archivio_disegno_primitive.h"
-#include "librerie/numeri.h"
+#include "disegno/esecutivo/quote.h"
 #include "nodo/sessione.h"
 
 namespace qf17::profili {
@@ -48,7 +48,7 @@ void Incroci(Punto p, Punto q, const Poligono& poligono, std::vector<double>& pa
 }  // namespace
 
 std::int16_t Colore(const Sessione& s, int indice) {
-  return InI16(s.opzioni[indice]);
+  return ColoreOpzione(s, indice);
 }
 
 void Linea(Sessione& s, Punto p, Punto q, std::int16_t colore, std::int16_t stile) {
