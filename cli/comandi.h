@@ -34,9 +34,12 @@ int EseguiSollecitazioni(Sessione& sessione, const std::filesystem::path& file,
 struct ComandoDisegna {
   CLI::App* comando = nullptr;
   std::string nodo;
-  std::string formato = "dis";
-  std::string uscita;       // empty: job folder, node name, the format's extension
-  std::string fileOpzioni;  // empty: the installation's options, read at start-up
+  std::string formato = "grb";  // the drawing button's own default
+  bool esplodiTesti = false;    // DXF only
+  bool monocromo = false;       // DXF only
+  double disgrega = 0;          // DXF only: plot scale for breaking up dashed lines
+  std::string uscita;           // empty: job folder, node name, the format's extension
+  std::string fileOpzioni;      // empty: the installation's options, read at start-up
   bool quoteSaldature = false;
 };
 

@@ -7,7 +7,9 @@
 #include "disegno/esecutivo/tavola_dis.h"
 #include "disegno/formati/pulisci_disegno.h"
 #include "disegno/formati/salva_dis.h"
+#include "disegno/formati/salva_dxf.h"
 #include "disegno/formati/salva_svg.h"
+#include "disegno/grb/salva_grb.h"
 #include "disegno/puntatore_occupato.h"
 #include "librerie/token.h"
 #include "nodo/avvio.h"
@@ -43,6 +45,7 @@ void Componi(Sessione& s) {
 bool EsportaDisegno(Sessione& s, const std::string& nome, std::int16_t silenzioso,
                     std::string_view tipo) {
   const std::string formato = Maiuscolo(tipo);
+  if (formato == "DXF") return EsportaDxf(s, nome, ModoEsportaDxf{}, silenzioso);
   if (formato != "DIS" && formato != "SVG") return false;
   Componi(s);
   if (formato == "DIS") {
@@ -52,6 +55,13 @@ bool EsportaDisegno(Sessione& s, const std::string& nome, std::int16_t silenzios
   }
   PulisciDisegno(s.disegno);
   return SalvaSvg(s, nome, silenzioso);
+}
+
+bool EsportaDxf(Sessione& s, const std::string& nome, const ModoEsportaDxf& modo,
+                std::int16_t silenzioso) {
+  Componi(s);
+  return SalvaDxf(s, nome, modo.esplodiTesti ? 1 : 0, modo.monocromo ? 1 : 0, modo.scala,
+                  modo.scala > 0 ? 1 : 0, silenzioso);
 }
 
 bool GeneraDisegno(Sessione& s) {
@@ -72,13 +82,21 @@ bool GeneraDisegno(Sessione& s) {
   }
   PuntatoreOccupato occupato(s.piattaforma);
   switch (scelto->indiceFiltro) {
-    case 1:
-      return false;  // the GRB sheet is composed by its own writer, not built yet
+    case 1: {
+      std::int16_t scritto = 0;
+      SalvaGRB(s, scelto->percorso, scritto, 0);
+      return scritto == 1;
+    }
     case 2:
       return EsportaDisegno(s, scelto->percorso, 0, "DIS");
     default:
       return EsportaDisegno(s, scelto->percorso, 0, "DXF");
   }
+}
+
+void ApriVis(Sessione& s) {
+  ApriVisualizzatore(s);
+  SalvaGrbTemporaneo(s);
 }
 
 }  // namespace qf17

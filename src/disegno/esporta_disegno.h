@@ -26,18 +26,28 @@ inline constexpr std::string_view kVisualizzatoreMancante = "Visualizzatore inco
 
 // Composes the executive sheet afresh (store emptied, store as target, composition, target
 // cleared) and writes it to `nome` as `tipo`, compared in upper case: "DIS" through the DIS
-// writer with version 4, "SVG" through the preview writer after the same clean-up, so that the
-// preview shows what the DIS file holds. `silenzioso` as for the DIS writer (0 the user is told
-// of the saving and of a failure, 1 nothing, 2 a failure only). True when the file was written.
-// Any other type (the DXF writer is not there yet) composes and writes nothing and gives false.
+// writer with version 4, "DXF" through the DXF writer in its plain mode, "SVG" through the
+// preview writer after the DIS clean-up, so that the preview shows what the DIS file holds.
+// `silenzioso` as for the DIS writer (0 the user is told of the saving and of a failure, 1
+// nothing, 2 a failure only). True when the file was written. Any other type composes and
+// writes nothing and gives false. (The GRB sheet has its own composition run: SalvaGRB.)
 bool EsportaDisegno(Sessione& s, const std::string& nome, std::int16_t silenzioso,
                     std::string_view tipo);
 
+// The DXF modes the drawing button never asks for, offered on the command line.
+struct ModoEsportaDxf {
+  bool esplodiTesti = false;  // texts as strokes of the stroke font
+  bool monocromo = false;     // every colour 7
+  double scala = 0;           // above 0: dashed lines broken up at the plot scale 1:scala
+};
+// Composes the sheet and writes it as DXF in the given modes.
+bool EsportaDxf(Sessione& s, const std::string& nome, const ModoEsportaDxf& modo,
+                std::int16_t silenzioso);
+
 // The drawing button: the save dialog in the job folder with the node's name, then the chosen
-// format under the busy pointer: filter 2 a DIS file; filter 1 (GRB) and any other (DXF) are
-// later formats and write nothing yet. A cancelled dialog does nothing and says nothing; a
-// dialog that gives back no name tells "Errore: creazione disegno fallita". True when a file was
-// written.
+// format under the busy pointer: filter 1 the GRB sheet, 2 a DIS file, any other a DXF file. A
+// cancelled dialog does nothing and says nothing; a dialog that gives back no name tells "Errore:
+// creazione disegno fallita". True when a file was written.
 bool GeneraDisegno(Sessione& s);
 
 // The full path of nodo.dis in the program folder.
@@ -53,5 +63,9 @@ bool SalvaNodoDis(Sessione& s);
 // brought to the front and told to reload; with none, grafview.inp is written and the viewer
 // started from the program folder. If it cannot be started the user is told; nodo.dis stays.
 void ApriVisualizzatore(Sessione& s);
+
+// The viewer button: the sheet in the viewer, then qf7tmp.grb in the job folder, silently, for
+// the family's editor to pick up.
+void ApriVis(Sessione& s);
 
 }  // namespace qf17

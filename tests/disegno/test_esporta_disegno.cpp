@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "disegno/archivio_disegno.h"
 #include "disegno/esporta_disegno.h"
@@ -93,19 +94,27 @@ TEST_F(EsportaDisegnoTest, FiltroDisScriveIlFileSottoIlPuntatoreOccupato) {
   EXPECT_EQ(p.messaggi[0].titolo, "SALVA FILE DISEGNO");
 }
 
-// GRB (filter 1) and DXF (any other filter) have no writer yet: nothing is composed or written,
-// and the pointer still comes back.
-TEST_F(EsportaDisegnoTest, FormatiSenzaScrittoreNonScrivonoNulla) {
-  for (int filtro : {1, 3}) {
-    DisegnoPrecedente();
-    const fs::path file = lavoro / ("x" + std::to_string(filtro));
-    p.fileScelti.push_back(Scelta(file, filtro));
-    EXPECT_FALSE(GeneraDisegno(s)) << filtro;
-    EXPECT_FALSE(fs::exists(file)) << filtro;
-    EXPECT_TRUE(DisegnoIntatto()) << filtro;
+// Filter 1 is the GRB sheet, any other filter the DXF file, each under the busy pointer and
+// confirmed by its own writer.
+TEST_F(EsportaDisegnoTest, FiltriGrbEDxf) {
+  struct Caso {
+    int filtro;
+    std::string file, inizio, titolo;
+  };
+  const std::vector<Caso> casi = {
+      {1, "a.grb", "                   4\r\n                   5", "SALVA FILE DISEGNO"},
+      {3, "a.dxf", " 0\r\nSECTION\r\n 2\r\nHEADER", "SALVA FILE DXF"}};
+  for (const Caso& c : casi) {
+    p.messaggi.clear();
+    const fs::path file = lavoro / c.file;
+    p.fileScelti.push_back(Scelta(file, c.filtro));
+    EXPECT_TRUE(GeneraDisegno(s)) << c.filtro;
+    EXPECT_EQ(prova::LeggiTutto(file).substr(0, c.inizio.size()), c.inizio);
     EXPECT_FALSE(p.occupato);
+    ASSERT_EQ(p.messaggi.size(), 1u) << c.filtro;
+    EXPECT_EQ(p.messaggi[0].testo, "File " + file.string() + " salvato.");
+    EXPECT_EQ(p.messaggi[0].titolo, c.titolo);
   }
-  EXPECT_TRUE(p.messaggi.empty());
 }
 
 TEST_F(EsportaDisegnoTest, TipoInMaiuscoloQualunque) {
@@ -115,7 +124,9 @@ TEST_F(EsportaDisegnoTest, TipoInMaiuscoloQualunque) {
   EXPECT_TRUE(EsportaDisegno(s, svg.string(), 1, "Svg"));
   EXPECT_EQ(prova::LeggiTutto(svg).substr(0, 5), "<?xml");
   EXPECT_TRUE(p.messaggi.empty());
-  EXPECT_FALSE(EsportaDisegno(s, (lavoro / "a.dxf").string(), 1, "DXF"));
+  EXPECT_TRUE(EsportaDisegno(s, (lavoro / "a.dxf").string(), 1, "dxf"));
+  EXPECT_FALSE(EsportaDisegno(s, (lavoro / "a.pdf").string(), 1, "PDF"));
+  EXPECT_FALSE(fs::exists(lavoro / "a.pdf"));
 }
 
 TEST_F(EsportaDisegnoTest, IngressoDelVisualizzatoreByteAByte) {
@@ -160,6 +171,15 @@ TEST_F(EsportaDisegnoTest, VisualizzatoreMancanteLasciaNodoDis) {
   EXPECT_EQ(p.messaggi[0].titolo, "ERRORE");
   EXPECT_EQ(p.messaggi[0].icona, Icona::Attenzione);
   EXPECT_FALSE(p.occupato);
+}
+
+// The viewer button also leaves the GRB sheet in the job folder for the editor, without a word.
+TEST_F(EsportaDisegnoTest, BottoneVisualizzatoreLasciaIlGrbNelLavoro) {
+  p.finestreAperte = {true};
+  ApriVis(s);
+  EXPECT_TRUE(fs::exists(nodoDis));
+  EXPECT_EQ(prova::LeggiTutto(lavoro / "qf7tmp.grb").substr(0, kTestaDis.size()), kTestaDis);
+  EXPECT_TRUE(p.messaggi.empty());
 }
 
 }  // namespace
