@@ -7,7 +7,8 @@ FUZZ_SECONDI ?= 60
 JOBS ?= 2
 
 PACCHETTI = cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev \
-            libcli11-dev nlohmann-json3-dev hershey-fonts-data locales
+            libcli11-dev nlohmann-json3-dev hershey-fonts-data locales \
+            python3-ezdxf librecad poppler-utils
 PACCHETTI_FUZZ = clang libclang-rt-14-dev
 
 .PHONY: all dipendenze dipendenze-fuzz locale-it installa build test demo fuzz clean
