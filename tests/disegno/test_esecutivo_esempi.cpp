@@ -1,7 +1,8 @@
-// The executive sheets of three sample nodes, kept as DIS and SVG files after their pictures were
-// looked at: angles on a channel chord (ANGUPN), opposed and double angles on a sloped chord
-// (DOPPIO), an I chord with its weld (HEASALD). A change to any view, chain or table shows here.
-// Run DISABLED_Rigenera to write them again, then look at the pictures before committing.
+// The executive sheets of three sample nodes, kept as DIS, SVG, DXF and GRB files after their
+// pictures were looked at: angles on a channel chord (ANGUPN), opposed and double angles on a
+// sloped chord (DOPPIO), an I chord with its weld (HEASALD). A change to any view, chain or table
+// shows here. Run DISABLED_Rigenera to write them again, then look at the pictures before
+// committing.
 
 #include <gtest/gtest.h>
 
@@ -11,6 +12,7 @@
 
 #include "disegno/esporta_disegno.h"
 #include "disegno/file_opzioni.h"
+#include "disegno/grb/salva_grb.h"
 #include "disegno/leggi_font.h"
 #include "nodo/esempi_nodo.h"
 #include "nodo/file_nodo.h"
@@ -24,7 +26,7 @@ namespace {
 namespace fs = std::filesystem;
 
 const char* const kNodi[] = {"ANGUPN", "DOPPIO", "HEASALD"};
-const char* const kFormati[] = {"dis", "svg"};
+const char* const kFormati[] = {"dis", "svg", "dxf", "grb"};
 
 fs::path Golden(const std::string& nodo, const std::string& formato) {
   return fs::path(QF17_DATI_TEST) / "disegno" / "dati" / ("esecutivo_" + nodo + "." + formato);
@@ -42,7 +44,13 @@ std::string Foglio(const std::string& nodo, const std::string& formato) {
   prova::CartellaProva cartella;
   EXPECT_TRUE(ApriNodoDaFile(s, prova::CartellaEsempi() / (nodo + ".qf7")));
   const fs::path file = cartella.percorso() / ("foglio." + formato);
-  EXPECT_TRUE(EsportaDisegno(s, file.string(), 1, formato));
+  if (formato == "grb") {
+    std::int16_t scritto = 0;
+    SalvaGRBSuFile(s, file.string(), scritto, 1);
+    EXPECT_EQ(scritto, 1);
+  } else {
+    EXPECT_TRUE(EsportaDisegno(s, file.string(), 1, formato));
+  }
   EXPECT_TRUE(p.messaggi.empty()) << nodo;
   return prova::LeggiTutto(file);
 }
