@@ -16,23 +16,13 @@ namespace qf17 {
 
 namespace {
 
-// Half the opening of an arrow head: 15 degrees.
-constexpr double kSemiapertura = 0.261799387799149;
-
 // The three strokes of an arrow head at (x, y): `verso` +1 opens it towards the line's
 // direction `angolo`, -1 away from it.
 void Freccia(Sessione& s, double x, double y, double angolo, double verso, std::int16_t colore) {
-  const double r = s.opzioni[14];
-  const double rt = r * std::tan(kSemiapertura);
-  const double c = std::cos(angolo);
-  const double sn = std::sin(angolo);
-  const double xa = x + verso * (r * c - rt * sn);
-  const double ya = y + verso * (r * sn + rt * c);
-  const double xb = x + verso * (r * c + rt * sn);
-  const double yb = y + verso * (r * sn - rt * c);
-  DisegnaLinea(s, x, y, xa, ya, colore);
-  DisegnaLinea(s, x, y, xb, yb, colore);
-  DisegnaLinea(s, xa, ya, xb, yb, colore);
+  const auto [a, b] = PunteFreccia(s, x, y, angolo, verso);
+  DisegnaLinea(s, x, y, a.x, a.y, colore);
+  DisegnaLinea(s, x, y, b.x, b.y, colore);
+  DisegnaLinea(s, a.x, a.y, b.x, b.y, colore);
 }
 
 // Indicators at both ends and the line between them. A dimension too short for two indicators
@@ -67,6 +57,17 @@ double DistanzaTesto(ArchivioDisegno& a, bool entra, double distanza, double alt
 }
 
 }  // namespace
+
+std::array<Punto, 2> PunteFreccia(const Sessione& s, double x, double y, double angolo,
+                                  double verso) {
+  constexpr double kSemiapertura = 0.261799387799149;  // half the opening: 15 degrees
+  const double r = s.opzioni[14];
+  const double rt = r * std::tan(kSemiapertura);
+  const double c = std::cos(angolo);
+  const double sn = std::sin(angolo);
+  return {Punto{x + verso * (r * c - rt * sn), y + verso * (r * sn + rt * c)},
+          Punto{x + verso * (r * c + rt * sn), y + verso * (r * sn - rt * c)}};
+}
 
 std::int16_t ColoreOpzione(const Sessione& s, int indice) {
   return InI16(s.opzioni[indice]);

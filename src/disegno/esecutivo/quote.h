@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -30,6 +31,11 @@ std::string TestoMisura(double misura);
 
 // The text of a member's angle (radians) at its arc: degrees, absolute, cut to two decimals.
 std::string TestoAngoloAsta(double teta);
+
+// The two tips of an arrow head at (x, y) on a line of direction `angolo` (radians), with the
+// indicator size of the options: `verso` +1 opens it along the line, -1 against it.
+std::array<Punto, 2> PunteFreccia(const Sessione& s, double x, double y, double angolo,
+                                  double verso);
 
 enum class Asse { X, Y };
 // Sorts the points ascending on the coordinate of `asse`.

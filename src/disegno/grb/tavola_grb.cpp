@@ -57,22 +57,12 @@ void Estensioni(Sessione& s, double x1, double x2, double y1, double y2) {
   AggiornaEstensioni(a, s.nodo.Cor_teta, x2 + a.OrigineX, y2 + a.OrigineY);
 }
 
-// Half the opening of the DIS sheet's arrow heads: 15 degrees.
-constexpr double kSemiapertura = 0.261799387799149;
-
-// The two tips of the DIS sheet's arrow head at (x, y), `verso` +1 opening it along the line.
-void PunteFreccia(Sessione& s, double x, double y, double angolo, double verso) {
-  const double r = s.opzioni[14];
-  const double rt = r * std::tan(kSemiapertura);
-  const double c = std::cos(angolo);
-  const double sn = std::sin(angolo);
+// Widens the extents by the tips of the DIS sheet's arrow head at (x, y).
+void PunteFrecciaNelleEstensioni(Sessione& s, double x, double y, double angolo, double verso) {
   ArchivioDisegno& a = s.disegno;
-  const double xa = x + verso * (r * c - rt * sn);
-  const double ya = y + verso * (r * sn + rt * c);
-  const double xb = x + verso * (r * c + rt * sn);
-  const double yb = y + verso * (r * sn - rt * c);
-  AggiornaEstensioni(a, s.nodo.Cor_teta, xa + a.OrigineX, ya + a.OrigineY);
-  AggiornaEstensioni(a, s.nodo.Cor_teta, xb + a.OrigineX, yb + a.OrigineY);
+  for (const Punto& p : PunteFreccia(s, x, y, angolo, verso)) {
+    AggiornaEstensioni(a, s.nodo.Cor_teta, p.x + a.OrigineX, p.y + a.OrigineY);
+  }
 }
 
 // The editor draws the indicators of a dimension itself, but the sheet keeps the room that the
@@ -81,8 +71,8 @@ void PunteFreccia(Sessione& s, double x, double y, double angolo, double verso) 
 void EstensioniIndicatori(Sessione& s, const Segmento& q) {
   if (s.opzioni[27] != 1 || s.opzioni[14] <= kTolleranzaDisegno) return;
   const double verso = 2 * s.opzioni[14] <= q.lunghezza ? 1 : -1;
-  PunteFreccia(s, q.x1, q.y1, q.angolo, verso);
-  PunteFreccia(s, q.x2, q.y2, q.angolo, -verso);
+  PunteFrecciaNelleEstensioni(s, q.x1, q.y1, q.angolo, verso);
+  PunteFrecciaNelleEstensioni(s, q.x2, q.y2, q.angolo, -verso);
 }
 
 }  // namespace
