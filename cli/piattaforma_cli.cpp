@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <iostream>
+#include <string>
 
 namespace qf17 {
 
@@ -25,7 +26,11 @@ void BufferizzaErrori() {
 Risposta PiattaformaCli::Messaggio(const std::string& testo, const std::string& titolo, Icona,
                                    Pulsanti pulsanti) {
   BufferizzaErrori();
-  std::cerr << titolo << ": " << testo << '\n';
+  // One write of the whole line: the stream would flush standard output before each piece.
+  std::string riga;
+  riga.reserve(titolo.size() + testo.size() + 3);
+  riga.append(titolo).append(": ").append(testo).push_back('\n');
+  std::fwrite(riga.data(), 1, riga.size(), stderr);
   if (pulsanti == Pulsanti::OkAnnulla && annulla_) return Risposta::Annulla;
   return Risposta::Ok;
 }

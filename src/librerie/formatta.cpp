@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <vector>
@@ -125,10 +126,14 @@ std::string Esponenziale(double x, int cifre) {
   return (x < 0 ? "-" : "") + mantissa + ".E" + std::to_string(esponente);
 }
 
-std::string TogliUltimoCarattere(std::string t) {
-  while (!t.empty() && (static_cast<unsigned char>(t.back()) & 0xC0) == 0x80) t.pop_back();
-  if (!t.empty()) t.pop_back();
-  return t;
+// One place to the right: a blank in front, the last character dropped.
+std::string SpostaADestra(const std::string& t) {
+  std::size_t n = t.size();
+  while (n > 0 && (static_cast<unsigned char>(t[n - 1]) & 0xC0) == 0x80) --n;
+  if (n > 0) --n;
+  std::string spostato(1, ' ');
+  spostato.append(t, 0, n);
+  return spostato;
 }
 
 std::string Stelle(int larghezza, std::string_view comandi) {
@@ -218,13 +223,45 @@ std::optional<Preparato> Prepara(double x, std::string_view comandi, double scal
   return r;
 }
 
+// PostiCifra's text ("12.5", ".25", "3." with the point, "1234" without), written at `c`; 0 when
+// the rounded value has no short text of at most `decimali` places, which leaves it to PostiCifra.
+std::size_t PostiCifraBrevi(double x, bool punto, int decimali, char* c) {
+  if (!punto) decimali = 0;
+  const double r = ArrotondaDecimali(x, decimali);
+  char cifre[kCifreBrevi];
+  std::size_t n = 0;
+  if (r != 0) {
+    n = CifreBrevi(std::fabs(r), cifre);
+    if (n == 0) return 0;
+  }
+  std::string_view t(cifre, n);
+  const std::size_t p = t.find('.');
+  std::string_view intero = t.substr(0, p);
+  std::string_view decimi = p == kNo ? std::string_view() : t.substr(p + 1);
+  if (decimi.size() > static_cast<std::size_t>(decimali)) return 0;
+  if (intero == "0") intero = {};
+  std::size_t k = 0;
+  if (r < 0) c[k++] = '-';
+  intero.copy(c + k, intero.size());
+  k += intero.size();
+  if (!punto) return k;
+  c[k++] = '.';
+  decimi.copy(c + k, decimi.size());
+  return k + decimi.size();
+}
+
 // The column cell of a number: what Formatta gives for "(FD_ww)" or "(FS_ww)", "(SC_|)" with
 // the separator and "(NP_1)" for an integer, at scale 1, taken straight through its steps
 // (no conversion, digits or decimals apply), since reports ask for millions of cells.
 std::string CellaNumero(double x, int w, bool destra, bool separatore, bool senzaPunto) {
+  if (w + 1 <= static_cast<int>(kCellaBreve)) {
+    char cella[kCellaBreve];
+    const std::size_t n = CellaNumeroBreve(x, w, destra, separatore, senzaPunto, cella);
+    if (n > 0) return std::string(cella, n);
+  }
   std::string t = TestoNumero(x);
-  // The common cell: a plain number that fits, padded on one side, its closing point dropped
-  // for an integer. The same text the steps below give, without their copies.
+  // A plain number of many digits that fits, padded on one side, its closing point dropped for
+  // an integer: the same text the steps below give, without their copies.
   if (t.find('E') == kNo) {
     if (t.find('.') == kNo) t += '.';
     const auto larghezza = static_cast<std::size_t>(w);
@@ -257,7 +294,7 @@ std::string CellaNumero(double x, int w, bool destra, bool separatore, bool senz
     const std::size_t ultimo = t.find_last_not_of(" \t");
     if (ultimo != kNo && t[ultimo] == '.') {
       t[t.rfind('.')] = ' ';
-      if (destra) t = " " + TogliUltimoCarattere(t);
+      if (destra) t = SpostaADestra(t);
     }
   }
   if (separatore) t += '|';
@@ -265,6 +302,57 @@ std::string CellaNumero(double x, int w, bool destra, bool separatore, bool senz
 }
 
 }  // namespace
+
+// The cells a report is made of: a number with a short text, that fits its width or fits by
+// fewer decimals. The same text as the steps of CellaNumero, without a string in between.
+std::size_t CellaNumeroBreve(double x, int w, bool destra, bool separatore, bool senzaPunto,
+                             char* cella) {
+  if (w < 2 || w + 1 > static_cast<int>(kCellaBreve)) return 0;
+  const auto larghezza = static_cast<std::size_t>(w);
+  char t[kCellaBreve];
+  std::size_t n = 1;
+  if (x == 0) {
+    t[0] = '0';
+  } else if (n = CifreBrevi(x, t); n == 0) {
+    return 0;
+  }
+  const char* punto = static_cast<const char*>(std::memchr(t, '.', n));
+  if (punto == nullptr) t[n++] = '.';
+  std::size_t k = 0;
+  if (n <= larghezza) {
+    // Padded on its side, the closing point of an integer dropped.
+    const std::size_t cifre = senzaPunto && t[n - 1] == '.' ? n - 1 : n;
+    if (destra) k = larghezza - cifre;
+    std::memset(cella, ' ', larghezza);
+    std::memcpy(cella + k, t, cifre);
+    k = larghezza;
+  } else {
+    // Too long: as many decimals as the width leaves, the digits left-aligned in the cell as
+    // Formatta fills them, whatever the side.
+    const auto interi = static_cast<std::size_t>((punto == nullptr ? t + n - 1 : punto) - t);
+    if (interi > larghezza) return 0;
+    if (interi == larghezza) {
+      // Exactly the integer's places: rounded to a whole number, without the point.
+      k = PostiCifraBrevi(x, false, 0, cella);
+      if (k != larghezza) return 0;
+      if (separatore) cella[k++] = '|';
+      return k;
+    }
+    k = PostiCifraBrevi(x, true, w - static_cast<int>(interi) - 1, cella);
+    if (k == 0 || k > larghezza) return 0;
+    std::memset(cella + k, ' ', larghezza - k);
+    if (senzaPunto && cella[k - 1] == '.') {
+      cella[k - 1] = ' ';
+      if (destra) {
+        std::memmove(cella + 1, cella, larghezza - 1);
+        cella[0] = ' ';
+      }
+    }
+    k = larghezza;
+  }
+  if (separatore) cella[k++] = '|';
+  return k;
+}
 
 std::string Formatta(double valore, std::string_view comandi, double& scala,
                      Piattaforma& piattaforma) {
@@ -306,7 +394,7 @@ std::string Formatta(double valore, std::string_view comandi, double& scala,
     if (!rifilato.empty() && rifilato.back() == '.') {
       t[t.rfind('.')] = ' ';
       // Without fixed decimals the number moves right by the point's place.
-      if (fd != kNo && !lavoro->conCd) t = " " + TogliUltimoCarattere(t);
+      if (fd != kNo && !lavoro->conCd) t = SpostaADestra(t);
     }
   }
   if (fd == kNo && fs == kNo) t = Rifila(t);
@@ -397,10 +485,11 @@ std::string FormatoColonna(const ValoreColonna& valore, int larghezza, bool sepa
   if (larghezza >= 2 && larghezza <= kMassimoNumero) {
     return CellaNumero(numero, larghezza, destra, separatore, intero != nullptr);
   }
-  std::string w = std::to_string(std::abs(larghezza));
-  if (w.size() < 2) w.insert(0, "0");
-  if (larghezza < 0) w.insert(0, "-");
-  std::string comandi = (destra ? "(FD_" : "(FS_") + w + ")";
+  const std::string cifre = std::to_string(std::abs(larghezza));
+  std::string comandi = destra ? "(FD_" : "(FS_";
+  if (larghezza < 0) comandi += '-';
+  if (cifre.size() < 2) comandi += '0';
+  comandi += cifre + ")";
   if (separatore) comandi += "(SC_|)";
   if (intero) comandi += "(NP_1)";
   double scala = 1;

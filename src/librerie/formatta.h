@@ -38,5 +38,11 @@ int UltimaPosizione(std::string_view testo, std::string_view cercato);
 using ValoreColonna = std::variant<double, long long, std::string>;
 std::string FormatoColonna(const ValoreColonna& valore, int larghezza, bool separatore,
                            std::string_view allineamento, Piattaforma& piattaforma);
+// The same cell of a number, written into `cella` (kCellaBreve characters) without a string,
+// for the common cells: right aligned when `destra`, without the point when `senzaPunto`. The
+// length written; 0 when the number needs FormatoColonna's other steps.
+inline constexpr std::size_t kCellaBreve = 64;
+std::size_t CellaNumeroBreve(double x, int larghezza, bool destra, bool separatore, bool senzaPunto,
+                             char* cella);
 
 }  // namespace qf17

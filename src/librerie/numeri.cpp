@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <system_error>
 
 #include "piattaforma/errori.h"
@@ -105,6 +106,36 @@ std::int16_t InteroStretto(std::string_view testo) {
   return InI16(Converti(t));
 }
 
+// Most numbers a report prints were rounded to a few decimals: such a value is an integer m over
+// 10^k, and its text is m's digits with the point put back, for the least k that reads back.
+// m / 10^k divides two exact doubles, so it rounds correctly: equal to the value, it proves the
+// text reads back to it. Below 1E+9 with at most six decimals no two texts of one k read back
+// to the same double, and the product's error cannot move m to a wrong integer.
+std::size_t CifreBrevi(double valore, char* testo) {
+  constexpr double kPotenze[] = {1, 10, 100, 1e3, 1e4, 1e5, 1e6};
+  const double assoluto = std::fabs(valore);
+  if (!(assoluto >= 1e-4 && assoluto < 1e9)) return 0;
+  for (int k = 0; k <= 6; ++k) {
+    // Below 1E+15 the sum is exact enough: a tie never reads back, so how it rounds is moot.
+    const auto m = static_cast<unsigned long long>(assoluto * kPotenze[k] + 0.5);
+    if (static_cast<double>(m) / kPotenze[k] != assoluto) continue;
+    char cifre[kCifreBrevi];
+    char* fine = cifre + sizeof cifre;
+    char* c = fine;
+    unsigned long long resto = m;
+    for (int cifra = 0; resto != 0 || cifra <= k; ++cifra) {
+      if (cifra == k && k > 0) *--c = '.';
+      *--c = static_cast<char>('0' + resto % 10);
+      resto /= 10;
+    }
+    if (valore < 0) *--c = '-';
+    const auto n = static_cast<std::size_t>(fine - c);
+    std::memcpy(testo, c, n);
+    return n;
+  }
+  return 0;
+}
+
 namespace {
 
 // The reference form: 15 significant digits in the %g style, trailing zeros dropped.
@@ -115,42 +146,14 @@ std::string TestoQuindiciCifre(double valore) {
   return std::string(buffer, fine);
 }
 
-// Most numbers a report prints were rounded to a few decimals: such a value is an integer m over
-// 10^k, and its text is m's digits with the point put back, for the least k that reads back.
-// m / 10^k divides two exact doubles, so it rounds correctly: equal to the value, it proves the
-// text reads back to it. Below 1E+9 with at most six decimals no two texts of one k read back
-// to the same double, and the product's error cannot move m to a wrong integer. Empty when the
-// value is not of this kind.
-std::string TestoDecimaliBrevi(double valore) {
-  constexpr double kPotenze[] = {1, 10, 100, 1e3, 1e4, 1e5, 1e6};
-  const double assoluto = std::fabs(valore);
-  if (!(assoluto >= 1e-4 && assoluto < 1e9)) return {};
-  for (int k = 0; k <= 6; ++k) {
-    // Below 1E+15 the sum is exact enough: a tie never reads back, so how it rounds is moot.
-    const auto m = static_cast<unsigned long long>(assoluto * kPotenze[k] + 0.5);
-    if (static_cast<double>(m) / kPotenze[k] != assoluto) continue;
-    char testo[32];
-    char* fine = testo + sizeof testo;
-    char* c = fine;
-    unsigned long long resto = m;
-    for (int cifra = 0; resto != 0 || cifra <= k; ++cifra) {
-      if (cifra == k && k > 0) *--c = '.';
-      *--c = static_cast<char>('0' + resto % 10);
-      resto /= 10;
-    }
-    if (valore < 0) *--c = '-';
-    return std::string(c, fine);
-  }
-  return {};
-}
-
 // The same text, found faster: when the shortest round-trip form of a normal double has at
 // most 15 significant digits, those are exactly the digits of the 15-digit form, so only the layout
 // (plain digits for exponents -4..14, exponent form otherwise) must follow the %g rule.
 std::string TestoBreve(double valore) {
   // Below the normal range a double holds fewer than 15 digits and the rule does not hold.
   if (std::fpclassify(valore) != FP_NORMAL) return TestoQuindiciCifre(valore);
-  if (std::string breve = TestoDecimaliBrevi(valore); !breve.empty()) return breve;
+  char breve[kCifreBrevi];
+  if (const std::size_t n = CifreBrevi(valore, breve); n > 0) return std::string(breve, n);
   // Most numbers lie where the plain digits are the form: one conversion is enough there.
   const double assoluto = std::fabs(valore);
   if (assoluto >= 1e-4 && assoluto < 1e15) {

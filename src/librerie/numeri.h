@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -30,6 +31,11 @@ std::string TestoNumero(long long valore);
 // The same plain form computed the obvious way (15 digits in the %g style); TestoNumero is a
 // faster road to the identical text, and the tests hold the two together.
 std::string TestoNumeroRiferimento(double valore);
+// TestoNumero's text of a value with at most six decimals between 1E-4 and 1E+9 (what rounded
+// figures are), written into `testo`, which holds kCifreBrevi characters; the length written, 0
+// for any other value.
+inline constexpr std::size_t kCifreBrevi = 32;
+std::size_t CifreBrevi(double valore, char* testo);
 
 // The list-print form of the family's drawing files: a non-negative number gets one leading
 // blank, every number one trailing blank.

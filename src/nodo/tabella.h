@@ -1,6 +1,11 @@
 #pragma once
 
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <new>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "piattaforma/errori.h"
@@ -59,6 +64,38 @@ class Tabella2 {
   std::vector<T> righe_;
 };
 
+// Zeroed storage for numbers, taken from the system as untouched pages: a result table of tens
+// of megabytes that a method never writes costs no memory, where a vector would write every
+// zero of it.
+template <class T>
+class ZeriGrandi {
+  static_assert(std::is_arithmetic_v<T>);
+
+ public:
+  explicit ZeriGrandi(std::size_t n) : n_(n), dati_(static_cast<T*>(std::calloc(n, sizeof(T)))) {
+    if (!dati_) throw std::bad_alloc();
+  }
+  ZeriGrandi(const ZeriGrandi& altro) : ZeriGrandi(altro.n_) {
+    std::memcpy(dati_.get(), altro.dati_.get(), n_ * sizeof(T));
+  }
+  ZeriGrandi& operator=(const ZeriGrandi& altro) {
+    if (this != &altro) *this = ZeriGrandi(altro);
+    return *this;
+  }
+  ZeriGrandi(ZeriGrandi&&) noexcept = default;
+  ZeriGrandi& operator=(ZeriGrandi&&) noexcept = default;
+
+  T& operator[](std::size_t i) { return dati_[i]; }
+  const T& operator[](std::size_t i) const { return dati_[i]; }
+
+ private:
+  struct Libera {
+    void operator()(T* p) const { std::free(p); }
+  };
+  std::size_t n_;
+  std::unique_ptr<T[], Libera> dati_;
+};
+
 // Three indices, for the per-bolt, per-set result tables.
 template <class T, int Primo1, int Ultimo1, int Primo2, int Ultimo2, int Primo3, int Ultimo3>
 class Tabella3 {
@@ -76,11 +113,10 @@ class Tabella3 {
     if (i < Primo1 || i > Ultimo1) IndiceFuoriTabella(i, Primo1, Ultimo1);
     if (j < Primo2 || j > Ultimo2) IndiceFuoriTabella(j, Primo2, Ultimo2);
     if (k < Primo3 || k > Ultimo3) IndiceFuoriTabella(k, Primo3, Ultimo3);
-    return (static_cast<std::size_t>(i - Primo1) * n2 + static_cast<std::size_t>(j - Primo2)) *
-               n3 +
+    return (static_cast<std::size_t>(i - Primo1) * n2 + static_cast<std::size_t>(j - Primo2)) * n3 +
            static_cast<std::size_t>(k - Primo3);
   }
-  std::vector<T> righe_;
+  ZeriGrandi<T> righe_;
 };
 
 }  // namespace qf17

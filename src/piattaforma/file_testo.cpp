@@ -5,6 +5,8 @@
 #include <sstream>
 #include <system_error>
 
+#include "piattaforma/file_sicuro.h"
+
 namespace qf17 {
 namespace {
 
@@ -132,27 +134,9 @@ void AggiungiRiga(std::string& contenuto, std::string_view testo) {
 }
 
 bool ScriviFileSicuro(const std::filesystem::path& percorso, std::string_view contenuto) {
-  std::filesystem::path temporaneo = percorso;
-  temporaneo += ".tmp~";
-  {
-    std::ofstream out(temporaneo, std::ios::binary | std::ios::trunc);
-    if (!out) return false;
-    out.write(contenuto.data(), static_cast<std::streamsize>(contenuto.size()));
-    out.flush();
-    if (!out) {
-      out.close();
-      std::error_code ec;
-      std::filesystem::remove(temporaneo, ec);
-      return false;
-    }
-  }
-  std::error_code ec;
-  std::filesystem::rename(temporaneo, percorso, ec);
-  if (ec) {
-    std::filesystem::remove(temporaneo, ec);
-    return false;
-  }
-  return true;
+  FileSicuro file(percorso);
+  file.Scrivi(contenuto);
+  return file.Conferma();
 }
 
 std::filesystem::path Percorso(std::string_view testo) {

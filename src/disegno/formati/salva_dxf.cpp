@@ -209,7 +209,8 @@ std::string NumeroDxf(double valore) {
 }
 
 std::string NumeroDxf(long long valore) {
-  return (valore < 0 ? "" : " ") + std::to_string(valore);
+  std::string testo(valore < 0 ? 0 : 1, ' ');
+  return testo += std::to_string(valore);
 }
 
 double AngoloDxf(double cx, double cy, double px, double py) {

@@ -5,6 +5,7 @@
 #include "librerie/formatta.h"
 #include "librerie/numeri.h"
 #include "nodo/sessione.h"
+#include "piattaforma/file_sicuro.h"
 #include "piattaforma/file_testo.h"
 #include "verifica/relazioni/relazione_ta.h"
 
@@ -33,22 +34,22 @@ void PreparaVerdetti(VerdettiRelazione& verdetti, int nSet) {
 }
 
 // The text is UTF-8, the encoding of this platform's editors, with CR LF line ends.
-bool ConcludiRelazione(Sessione& sessione, std::string_view tag, const TestoRelazione& r,
-                       bool nodoKo) {
+bool ConcludiRelazione(Sessione& sessione, FileSicuro& file, TestoRelazione& r, bool nodoKo) {
   Piattaforma& p = sessione.piattaforma;
   if (nodoKo) {
     p.Messaggio("ATTENZIONE: nodo non verificato!", "QF17 - NODO DI TRAVATURA RETICOLARE",
                 Icona::Attenzione, Pulsanti::Ok);
   }
-  std::filesystem::path file = NomeRelazione(sessione.nodo, tag);
-  if (!ScriviFileSicuro(file, r.testo())) {
-    p.Messaggio("Errore: scrittura della relazione non riuscita:\n" + file.string(), "ERRORE",
+  r.Versa();
+  const std::string nome = file.Percorso().string();
+  if (!file.Conferma()) {
+    p.Messaggio("Errore: scrittura della relazione non riuscita:\n" + nome, "ERRORE",
                 Icona::Critica, Pulsanti::Ok);
     return false;
   }
-  if (!p.Avvia("notepad.exe", file.string(), false)) {
-    p.Messaggio("Errore: impossibile mostrare la relazione:\n" + file.string(), "ERRORE",
-                Icona::Critica, Pulsanti::Ok);
+  if (!p.Avvia("notepad.exe", nome, false)) {
+    p.Messaggio("Errore: impossibile mostrare la relazione:\n" + nome, "ERRORE", Icona::Critica,
+                Pulsanti::Ok);
   }
   return true;
 }

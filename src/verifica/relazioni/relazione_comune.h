@@ -9,6 +9,7 @@ namespace qf17 {
 struct Sessione;
 struct Nodo;
 class Piattaforma;
+class FileSicuro;
 struct VerdettiRelazione;
 
 // The frame both reports share.
@@ -23,10 +24,9 @@ double NumeroCasellaAngolo(double radianti, Piattaforma& piattaforma);
 // otherwise.
 void PreparaVerdetti(VerdettiRelazione& verdetti, int nSet);
 // The end of a report: the closing message when a set has failed, which comes up before the
-// file is on disk, as the user has always seen it; then the file (NomeRelazione with `tag`),
-// written whole through a temporary file, and the viewer ("notepad.exe", not waited for). False,
-// with a message, when the file cannot be written; the viewer is then not started.
-bool ConcludiRelazione(Sessione& sessione, std::string_view tag, const TestoRelazione& r,
-                       bool nodoKo);
+// file is on disk, as the user has always seen it; then the file made whole under its name, and
+// the viewer ("notepad.exe", not waited for). False, with a message, when the file cannot be
+// written; the viewer is then not started.
+bool ConcludiRelazione(Sessione& sessione, FileSicuro& file, TestoRelazione& r, bool nodoKo);
 
 }  // namespace qf17

@@ -1,8 +1,10 @@
 #include "verifica/relazioni/relazione_slu.h"
 
 #include "nodo/sessione.h"
+#include "piattaforma/file_sicuro.h"
 #include "verifica/relazioni/relazione_comune.h"
 #include "verifica/relazioni/relazione_slu_parti.h"
+#include "verifica/relazioni/relazione_ta.h"
 
 namespace qf17 {
 
@@ -11,13 +13,14 @@ bool RelazioneSLU(Sessione& sessione, VerdettiRelazione& verdetti) {
   int nSet = n.nSollAg > 0 ? n.nSollAg : 0;
   PreparaVerdetti(verdetti, nSet);
 
-  TestoRelazione r(StimaLunghezzaSLU(n));
+  FileSicuro file(NomeRelazione(n, "SLU"));
+  TestoRelazione r(file);
   ScriviTestataSLU(sessione, r);
   for (int j = 1; j <= nSet; ++j) {
     verdetti.SetOk[j] = ScriviSetSLU(sessione, j, r, verdetti);
     if (!verdetti.SetOk[j]) verdetti.NodoKo = true;
   }
-  return ConcludiRelazione(sessione, "SLU", r, verdetti.NodoKo);
+  return ConcludiRelazione(sessione, file, r, verdetti.NodoKo);
 }
 
 }  // namespace qf17

@@ -39,6 +39,20 @@ class RigheColonne {
     r_ << FormatoColonna(valore, larghezza, separatore, allineamento, p_);
     return *this;
   }
+  // Numbers, millions of them in a large node's report, written straight into the text when
+  // they can be.
+  RigheColonne& Cella(double valore, int larghezza, std::string_view allineamento = "R",
+                      bool separatore = true) {
+    if (!CellaDiretta(valore, larghezza, allineamento, separatore, false))
+      Cella(ValoreColonna(valore), larghezza, allineamento, separatore);
+    return *this;
+  }
+  RigheColonne& Cella(long long valore, int larghezza, std::string_view allineamento = "R",
+                      bool separatore = true) {
+    if (!CellaDiretta(static_cast<double>(valore), larghezza, allineamento, separatore, true))
+      Cella(ValoreColonna(valore), larghezza, allineamento, separatore);
+    return *this;
+  }
   RigheColonne& Testo(std::string_view testo, int larghezza, std::string_view allineamento = "L",
                       bool separatore = true) {
     return Cella(std::string(testo), larghezza, allineamento, separatore);
@@ -47,6 +61,16 @@ class RigheColonne {
   TestoRelazione& r() { return r_; }
 
  private:
+  bool CellaDiretta(double x, int larghezza, std::string_view allineamento, bool separatore,
+                    bool intero) {
+    char cella[kCellaBreve];
+    const std::size_t n =
+        CellaNumeroBreve(x, larghezza, allineamento == "R", separatore, intero, cella);
+    if (n == 0) return false;
+    r_ << std::string_view(cella, n);
+    return true;
+  }
+
   TestoRelazione& r_;
   Piattaforma& p_;
 };
@@ -57,7 +81,5 @@ void ScriviTestataSLU(Sessione& sessione, TestoRelazione& r);
 // One load set j: its checks and its verdict line. Stores the bolts' ratios back rounded to two
 // decimals. True when nothing printed in it has failed.
 bool ScriviSetSLU(Sessione& sessione, int j, TestoRelazione& r, VerdettiRelazione& verdetti);
-// Bytes enough for the whole report, so that it is built without growing.
-std::size_t StimaLunghezzaSLU(const Nodo& nodo);
 
 }  // namespace qf17

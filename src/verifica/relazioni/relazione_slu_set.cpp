@@ -234,13 +234,4 @@ bool ScriviSetSLU(Sessione& sessione, int j, TestoRelazione& r, VerdettiRelazion
   return set.Verdetto();
 }
 
-std::size_t StimaLunghezzaSLU(const Nodo& n) {
-  std::size_t bulloni = 0;
-  for (int g = 0; g <= kMaxAste; ++g) bulloni += n.nBull[g] > 0 ? n.nBull[g] : 0;
-  std::size_t set = n.nSollAg > 0 ? n.nSollAg : 0;
-  // About 45 bytes for a bolt's line in the heading and in each set, and 3 kB for the fixed lines
-  // of each part.
-  return 4096 + bulloni * 48 + set * (3072 + bulloni * 48);
-}
-
 }  // namespace qf17

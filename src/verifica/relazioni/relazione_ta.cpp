@@ -2,6 +2,7 @@
 
 #include "librerie/token.h"
 #include "nodo/sessione.h"
+#include "piattaforma/file_sicuro.h"
 #include "verifica/relazioni/relazione_comune.h"
 #include "verifica/relazioni/relazione_ta_parti.h"
 
@@ -21,13 +22,14 @@ bool RelazioneTA(Sessione& sessione, VerdettiRelazione& verdetti) {
   int nSet = n.nSollAg > 0 ? n.nSollAg : 0;
   PreparaVerdetti(verdetti, nSet);
 
-  TestoRelazione r(StimaLunghezzaTA(n));
+  FileSicuro file(NomeRelazione(n, "TA"));
+  TestoRelazione r(file);
   ScriviTestataTA(sessione, r);
   for (int j = 1; j <= nSet; ++j) {
     verdetti.SetOk[j] = ScriviSetTA(sessione, j, r, verdetti);
     if (!verdetti.SetOk[j]) verdetti.NodoKo = true;
   }
-  return ConcludiRelazione(sessione, "TA", r, verdetti.NodoKo);
+  return ConcludiRelazione(sessione, file, r, verdetti.NodoKo);
 }
 
 }  // namespace qf17

@@ -28,7 +28,5 @@ void ScriviTestataTA(Sessione& sessione, TestoRelazione& r);
 // One load set j: its checks, its verdict line. Rounds and stores back the stresses the report
 // shows. True when nothing printed in it has failed.
 bool ScriviSetTA(Sessione& sessione, int j, TestoRelazione& r, VerdettiRelazione& verdetti);
-// Bytes enough for the whole report, so that it is built without growing.
-std::size_t StimaLunghezzaTA(const Nodo& nodo);
 
 }  // namespace qf17

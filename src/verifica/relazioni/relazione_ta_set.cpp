@@ -201,13 +201,4 @@ bool ScriviSetTA(Sessione& sessione, int j, TestoRelazione& r, VerdettiRelazione
   return set.Verdetto();
 }
 
-std::size_t StimaLunghezzaTA(const Nodo& n) {
-  std::size_t bulloni = 0;
-  for (int g = 0; g <= kMaxAste; ++g) bulloni += n.nBull[g] > 0 ? n.nBull[g] : 0;
-  std::size_t set = n.nSollAg > 0 ? n.nSollAg : 0;
-  // About 60 bytes for a bolt in the heading, 24 for its stress line in a set, and 2 kB for
-  // the fixed lines of each part.
-  return 4096 + bulloni * 64 + set * (2048 + bulloni * 24);
-}
-
 }  // namespace qf17

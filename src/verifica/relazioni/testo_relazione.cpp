@@ -9,6 +9,12 @@
 
 namespace qf17 {
 
+void TestoRelazione::Versa() {
+  if (file_ == nullptr) return;
+  file_->Scrivi(testo_);
+  testo_.clear();
+}
+
 std::string PulisciNome(std::string_view nome) {
   std::string pulito;
   pulito.reserve(nome.size());
@@ -39,7 +45,13 @@ std::string ModoAsta(const Nodo& nodo, int i) {
 // Whole numbers below 1E+15 print as their digits either way; the integer form is the quick one,
 // and bolt numbers and whole-unit stresses fill most of a large report.
 TestoRelazione& TestoRelazione::operator<<(Numero n) {
-  double v = n.valore;
+  const double v = n.valore;
+  char breve[kCifreBrevi];
+  if (const std::size_t k = CifreBrevi(v, breve); k > 0) {
+    if (breve[0] != '-') testo_.push_back(' ');
+    testo_.append(breve, k);
+    return *this;
+  }
   std::string t = v == std::trunc(v) && std::abs(v) < 1e15 ? TestoNumero(static_cast<long long>(v))
                                                            : TestoNumero(v);
   if (t.front() != '-') testo_.push_back(' ');

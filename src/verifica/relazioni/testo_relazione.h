@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "piattaforma/file_sicuro.h"
+
 namespace qf17 {
 
 struct Nodo;
@@ -29,11 +31,18 @@ inline constexpr struct FineRiga {
 } kFine{};
 inline constexpr char kTab = '\t';
 
-// The text of a report, built in one string: pieces are appended, lines end with CR LF. The
-// text stays UTF-8.
+// The text of a report: pieces are appended, lines end with CR LF. The text stays UTF-8. Either
+// kept whole here, or poured into a file a block at a time, so that the report of a large node
+// (tens of megabytes) never sits whole in memory.
 class TestoRelazione {
  public:
+  static constexpr std::size_t kBlocco = std::size_t{1} << 20;
+
   explicit TestoRelazione(std::size_t riserva) { testo_.reserve(riserva); }
+  explicit TestoRelazione(FileSicuro& file, std::size_t blocco = kBlocco)
+      : file_(&file), blocco_(blocco) {
+    testo_.reserve(blocco + blocco / 8);
+  }
 
   TestoRelazione& operator<<(std::string_view pezzo) {
     testo_.append(pezzo);
@@ -47,13 +56,19 @@ class TestoRelazione {
   TestoRelazione& operator<<(Numero n);
   TestoRelazione& operator<<(FineRiga) {
     testo_.append("\r\n");
+    if (file_ != nullptr && testo_.size() >= blocco_) Versa();
     return *this;
   }
 
+  // Pours what is held into the file, if there is one.
+  void Versa();
+  // The text not yet poured: all of it for a text kept here.
   const std::string& testo() const { return testo_; }
 
  private:
   std::string testo_;
+  FileSicuro* file_ = nullptr;
+  std::size_t blocco_ = 0;
 };
 
 }  // namespace qf17
