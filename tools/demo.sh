@@ -15,19 +15,29 @@ echo "== qf17 converti VECCHIO2.qf7 (old positional file) -> VECCHIO2-convertito
 head -12 "$lavoro/VECCHIO2-convertito.qf7" | tr -d '\r'
 echo
 # Exit status 1 means "not verified": the report says where.
-for nodo in ANGUPN DOPPIO HEASALD MOLTESOLL; do
-  echo "== qf17 verifica $nodo.qf7 --metodo TA"
+verifica() {
+  echo "== qf17 verifica $1.qf7 --metodo $2"
   esito=0
-  "$qf17" verifica "$nodo.qf7" --metodo TA || esito=$?
+  "$qf17" verifica "$1.qf7" --metodo "$2" || esito=$?
   case $esito in
     0) echo "   nodo verificato" ;;
     1) echo "   nodo NON verificato" ;;
     *) echo "   verifica non eseguita (esito $esito)"; exit "$esito" ;;
   esac
+}
+for nodo in ANGUPN DOPPIO HEASALD MOLTESOLL; do
+  verifica "$nodo" TA
+done
+# The same joints by limit states.
+for nodo in ANGUPN HEASALD; do
+  verifica "$nodo" SLU
 done
 echo
 echo "== Relazione di ANGUPN"
 tr -d '\r' < "$lavoro/RelTA_QF17_ANGUPN.txt"
+echo
+echo "== Relazione SLU di HEASALD, first load set"
+tr -d '\r' < "$lavoro/RelSLU_QF17_HEASALD.txt" | awk '/^Combinazione/ { n++ } n == 1'
 echo
 # The executive sheet: the DIS file the family's viewer opens, and a preview for a browser.
 for formato in dis svg; do
