@@ -14,28 +14,32 @@ FileSicuro::FileSicuro(std::filesystem::path percorso)
     riuscito_ = false;
     return;
   }
-  file_ = std::fopen(temporaneo_.c_str(), "wb");
-  riuscito_ = file_ != nullptr;
+  file_.open(temporaneo_, std::ios::binary | std::ios::trunc);
+  aperto_ = file_.is_open();
+  riuscito_ = aperto_;
 }
 
 FileSicuro::~FileSicuro() {
-  if (file_ != nullptr) Abbandona();
+  if (aperto_) Abbandona();
 }
 
 void FileSicuro::Scrivi(std::string_view pezzo) {
   if (!riuscito_ || pezzo.empty()) return;
-  if (std::fwrite(pezzo.data(), 1, pezzo.size(), file_) != pezzo.size()) riuscito_ = false;
+  file_.write(pezzo.data(), static_cast<std::streamsize>(pezzo.size()));
+  if (!file_) riuscito_ = false;
 }
 
 bool FileSicuro::Conferma() {
-  if (file_ == nullptr) return false;
-  if (std::fflush(file_) != 0) riuscito_ = false;
+  if (!aperto_) return false;
+  file_.flush();
+  if (!file_) riuscito_ = false;
   if (!riuscito_) {
     Abbandona();
     return false;
   }
-  const bool chiuso = std::fclose(file_) == 0;
-  file_ = nullptr;
+  file_.close();
+  aperto_ = false;
+  const bool chiuso = !file_.fail();
   std::error_code ec;
   if (chiuso) std::filesystem::rename(temporaneo_, percorso_, ec);
   if (!chiuso || ec) {
@@ -46,8 +50,8 @@ bool FileSicuro::Conferma() {
 }
 
 void FileSicuro::Abbandona() {
-  std::fclose(file_);
-  file_ = nullptr;
+  file_.close();
+  aperto_ = false;
   riuscito_ = false;
   std::error_code ec;
   std::filesystem::remove(temporaneo_, ec);

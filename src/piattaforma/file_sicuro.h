@@ -1,7 +1,7 @@
 #pragma once
 
-#include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <string_view>
 
 namespace qf17 {
@@ -27,7 +27,8 @@ class FileSicuro {
 
   std::filesystem::path percorso_;
   std::filesystem::path temporaneo_;
-  std::FILE* file_ = nullptr;
+  std::ofstream file_;
+  bool aperto_ = false;
   bool riuscito_ = true;
 };
 
