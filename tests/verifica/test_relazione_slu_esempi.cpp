@@ -107,15 +107,11 @@
 #include <string>
 #include <vector>
 
-#include "disegno/file_opzioni.h"
 #include "librerie/materiali.h"
-#include "librerie/unita_lavoro.h"
-#include "nodo/esempi_nodo.h"
-#include "nodo/file_nodo.h"
-#include "nodo/nodo_default.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
 #include "supporto/cartella_prova.h"
+#include "verifica/esempio_in_lavoro.h"
 #include "verifica/verifica.h"
 
 namespace qf17 {
@@ -166,21 +162,6 @@ double Valore(const Sessione& s, const Cifra& c) {
   return 0;
 }
 
-// The first line where two texts part, for a readable failure.
-std::string PrimaDifferenza(const std::string& a, const std::string& b) {
-  std::size_t riga = 1, inizio = 0;
-  for (std::size_t i = 0; i < a.size() && i < b.size(); ++i) {
-    if (a[i] != b[i]) {
-      auto fine = [&](const std::string& t) { return t.substr(inizio, t.find('\n', i) - inizio); };
-      return "line " + std::to_string(riga) + ":\n  got:      " + fine(a) +
-             "\n  expected: " + fine(b);
-    }
-    if (a[i] == '\n') ++riga, inizio = i + 1;
-  }
-  return "one text is a prefix of the other (" + std::to_string(a.size()) + " and " +
-         std::to_string(b.size()) + " bytes)";
-}
-
 std::string Riferimento(const std::string& nome) {
   return prova::LeggiTutto(fs::path(QF17_DATI_TEST) / "verifica" / "dati" / nome);
 }
@@ -192,43 +173,8 @@ const std::string kInterasseMaggiore =
     "L'interasse dei bulloni risulta difforme dalle prescrizioni delle NTC 2008 (maggiore del "
     "limite)";
 
-// A session as the installation starts it: libraries, options, the job's units from the copied
-// job folder, the default node; then a sample opened from a copy in that folder.
-class EsempiSLU {
- protected:
-  void Prepara(const std::string& nodo) {
-    ASSERT_TRUE(prova::CaricaLibrerieInstallazione(s));
-    const fs::path custom = fs::path(QF17_SORGENTI) / "installazione" / "custom";
-    s.opzioni = OpzioniPredefinite();
-    ASSERT_TRUE(LeggiOpzioni(s.opzioni, custom / "OpzioniQf7.txt"));
-    fs::copy_file(prova::CartellaEsempi() / "parametrilavoro",
-                  lavoro.percorso() / "parametrilavoro");
-    s.nodo.DirLavoro = lavoro.percorso().string();
-    LeggiUnitaLavoro(s);
-    NodoDefault(s);
-
-    const fs::path copia = lavoro.percorso() / (nodo + ".qf7");
-    fs::copy_file(prova::CartellaEsempi() / (nodo + ".qf7"), copia);
-    ASSERT_TRUE(ApriNodoDaFile(s, copia));
-    s.nodo.DirLavoro = lavoro.percorso().string();
-    ASSERT_EQ(s.nodo.TipoVer, 0) << "the samples are saved for allowable stresses";
-    EXPECT_TRUE(p.messaggi.empty()) << p.messaggi.front().testo;
-    p.messaggi.clear();
-  }
-
-  // One run; the report's text, empty when there is none.
-  std::string Relazione(const std::string& tag, const std::string& nodo) {
-    const fs::path file = lavoro.percorso() / ("Rel" + tag + "_QF17_" + nodo + ".txt");
-    fs::remove(file);
-    EsitoVerifica esito = EseguiVerifica(s);
-    if (esito.fine != FineVerifica::Relazione) return "";
-    return prova::LeggiTutto(file);
-  }
-
-  PiattaformaRegistrata p;
-  Sessione s{p};
-  prova::CartellaProva lavoro;
-};
+using prova::PrimaDifferenza;
+using EsempiSLU = prova::EsempioInLavoro;
 
 class RelazioneSLUEsempi : public EsempiSLU, public ::testing::TestWithParam<CasoEsempio> {
  protected:

@@ -72,14 +72,10 @@
 #include <string>
 #include <vector>
 
-#include "disegno/file_opzioni.h"
-#include "librerie/unita_lavoro.h"
-#include "nodo/esempi_nodo.h"
-#include "nodo/file_nodo.h"
-#include "nodo/nodo_default.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
 #include "supporto/cartella_prova.h"
+#include "verifica/esempio_in_lavoro.h"
 #include "verifica/verifica.h"
 
 namespace qf17 {
@@ -137,49 +133,12 @@ double Valore(const Sessione& s, const Cifra& c) {
   return 0;
 }
 
-// The first line where two texts part, for a readable failure.
-std::string PrimaDifferenza(const std::string& a, const std::string& b) {
-  std::size_t riga = 1, inizio = 0;
-  for (std::size_t i = 0; i < a.size() && i < b.size(); ++i) {
-    if (a[i] != b[i]) {
-      auto fine = [&](const std::string& t) { return t.substr(inizio, t.find('\n', i) - inizio); };
-      return "line " + std::to_string(riga) + ":\n  got:      " + fine(a) +
-             "\n  expected: " + fine(b);
-    }
-    if (a[i] == '\n') ++riga, inizio = i + 1;
-  }
-  return "one text is a prefix of the other (" + std::to_string(a.size()) + " and " +
-         std::to_string(b.size()) + " bytes)";
-}
+using prova::PrimaDifferenza;
 
-// A session as the installation starts it: libraries, options, the job's units from the copied
-// job folder, the default node; then the sample opened from a copy in that folder.
-class RelazioneTAEsempi : public ::testing::TestWithParam<CasoEsempio> {
+class RelazioneTAEsempi : public prova::EsempioInLavoro,
+                          public ::testing::TestWithParam<CasoEsempio> {
  protected:
-  void SetUp() override {
-    ASSERT_TRUE(prova::CaricaLibrerieInstallazione(s));
-    const fs::path custom = fs::path(QF17_SORGENTI) / "installazione" / "custom";
-    s.opzioni = OpzioniPredefinite();
-    ASSERT_TRUE(LeggiOpzioni(s.opzioni, custom / "OpzioniQf7.txt"));
-    fs::copy_file(prova::CartellaEsempi() / "parametrilavoro",
-                  lavoro.percorso() / "parametrilavoro");
-    s.nodo.DirLavoro = lavoro.percorso().string();
-    LeggiUnitaLavoro(s);
-    NodoDefault(s);
-
-    const std::string nome = std::string(GetParam().nodo) + ".qf7";
-    const fs::path copia = lavoro.percorso() / nome;
-    fs::copy_file(prova::CartellaEsempi() / nome, copia);
-    ASSERT_TRUE(ApriNodoDaFile(s, copia));
-    s.nodo.DirLavoro = lavoro.percorso().string();
-    s.nodo.TipoVer = 0;
-    EXPECT_TRUE(p.messaggi.empty()) << p.messaggi.front().testo;
-    p.messaggi.clear();
-  }
-
-  PiattaformaRegistrata p;
-  Sessione s{p};
-  prova::CartellaProva lavoro;
+  void SetUp() override { Prepara(GetParam().nodo); }
 };
 
 TEST_P(RelazioneTAEsempi, RelazioneComeIlFileDiRiferimentoEVerdetto) {
