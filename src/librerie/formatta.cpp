@@ -260,22 +260,6 @@ std::string CellaNumero(double x, int w, bool destra, bool separatore, bool senz
     if (n > 0) return std::string(cella, n);
   }
   std::string t = TestoNumero(x);
-  // A plain number of many digits that fits, padded on one side, its closing point dropped for
-  // an integer: the same text the steps below give, without their copies.
-  if (t.find('E') == kNo) {
-    if (t.find('.') == kNo) t += '.';
-    const auto larghezza = static_cast<std::size_t>(w);
-    if (t.size() <= larghezza) {
-      const std::size_t n = senzaPunto && t.back() == '.' ? t.size() - 1 : t.size();
-      std::string cella;
-      cella.reserve(larghezza + 1);
-      if (destra) cella.append(larghezza - n, ' ');
-      cella.append(t, 0, n);
-      if (!destra) cella.append(larghezza - n, ' ');
-      if (separatore) cella += '|';
-      return cella;
-    }
-  }
   bool esponente = t.find_first_of("eE") != kNo;
   int punto = 0;
   if (!esponente) punto = PuntoDecimale(t);
