@@ -10,7 +10,7 @@ namespace qf17 {
 // Counts the boxes and shows none, so that a benchmark measures the checks and not the user.
 class PiattaformaMuta : public Piattaforma {
  public:
-  Risposta Messaggio(const std::string&, const std::string&, Icona, Pulsanti) override {
+  Risposta MostraMessaggio(const std::string&, const std::string&, Icona, Pulsanti) override {
     ++messaggi;
     return Risposta::Ok;
   }

@@ -4,12 +4,19 @@
 #include <filesystem>
 #include <string>
 
+#include "piattaforma/confine_comando.h"
+
 namespace qf17 {
 
 struct Sessione;
 
-// Exit status of any command that could not do its work.
-inline constexpr int kEsitoErrore = 2;
+// Opens the node file for a command that writes something from it (a node, a report, a sheet):
+// false when it cannot be opened, or when a section, steel or bolt class name was not found in
+// the libraries (after their messages, a line saying that nothing is written).
+bool ApriNodoPerComando(Sessione& sessione, const std::filesystem::path& file);
+// False, with a message, when `uscita` is the node file `nodo` itself, by whatever path.
+bool UscitaNonSulNodo(Sessione& sessione, const std::filesystem::path& uscita,
+                      const std::filesystem::path& nodo);
 
 // "sollecitazioni NODO --rimuovi-doppi | --max-min [-o FILE]": reduces the node's load table
 // and saves the node.
@@ -29,8 +36,9 @@ void RegistraSollecitazioni(CLI::App& app, ComandoSoll& opzioni);
 int EseguiSollecitazioni(Sessione& sessione, const std::filesystem::path& file,
                          const ComandoSoll& opzioni);
 
-// "disegna NODO [--formato dis|svg] [-o FILE] [--opzioni FILE] [--quote-saldature]": composes
-// the executive sheet and writes it, by default in the job folder under the node's name.
+// "disegna NODO [--formato grb|dis|dxf|svg] [-o FILE] [--opzioni FILE] [--quote-saldature]
+// [--esplodi-testi] [--monocromo] [--disgrega SCALA]": composes the executive sheet and writes
+// it, by default in the job folder under the node's name; the last three are DXF modes.
 struct ComandoDisegna {
   CLI::App* comando = nullptr;
   std::string nodo;
@@ -47,13 +55,15 @@ struct ComandoDisegna {
 void RegistraDisegna(CLI::App& app, ComandoDisegna& opzioni);
 
 // Reads the options file if one was given, opens the node, composes and writes the sheet and
-// prints the file's path. 0 when written, 2 on any failure (the user was told).
+// prints the file's path. 0 when written, 2 on any failure (the user was told), also when the
+// output is the node file itself.
 int EseguiDisegna(Sessione& sessione, const std::filesystem::path& file,
                   const ComandoDisegna& opzioni);
 
 // "verifica NODO [--metodo TA] [--json FILE]": runs the verification as the button does, writes
 // the report in the job folder and prints its path. 0 when the node is verified, 1 when it is
-// not, 2 on an error or when the run ended without a report.
+// not, 3 when it is by the report but the run gave messages (its "AVVERTENZE"), 2 on an error,
+// when the node has no load set or when the run ended without a report.
 int ComandoVerifica(Sessione& sessione, const std::filesystem::path& file,
                     const std::string& metodo, const std::string& fileJson);
 

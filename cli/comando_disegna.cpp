@@ -67,15 +67,16 @@ int EseguiDisegna(Sessione& s, const std::filesystem::path& file, const ComandoD
                             "ERRORE", Icona::Critica, Pulsanti::Ok);
     return kEsitoErrore;
   }
-  if (!ApriNodoDaFile(s, file)) return kEsitoErrore;
+  if (!ApriNodoPerComando(s, file)) return kEsitoErrore;
   s.opzioni.QuoteSaldature = opzioni.quoteSaldature;
   const std::filesystem::path uscita =
       opzioni.uscita.empty()
           ? Percorso(s.nodo.DirLavoro) / (Rifila(s.nodo.NomeFileNodo) + "." + formato)
           : std::filesystem::path(opzioni.uscita);
+  if (!UscitaNonSulNodo(s, uscita, file)) return kEsitoErrore;
   if (!Scrivi(s, formato, uscita.string(), opzioni)) return kEsitoErrore;
   std::cout << std::filesystem::absolute(uscita).string() << "\n";
-  return 0;
+  return kEsitoFatto;
 }
 
 }  // namespace qf17

@@ -25,8 +25,7 @@ void RegistraSollecitazioni(CLI::App& app, ComandoSoll& opzioni) {
 
 int EseguiSollecitazioni(Sessione& sessione, const std::filesystem::path& file,
                          const ComandoSoll& opzioni) {
-  constexpr int kEsitoErrore = 2;
-  if (!ApriNodoDaFile(sessione, file)) return kEsitoErrore;
+  if (!ApriNodoPerComando(sessione, file)) return kEsitoErrore;
   const int prima = sessione.nodo.nSollAg;
   if (opzioni.maxMin) {
     RiduciMaxMin(sessione.nodo);
@@ -38,7 +37,7 @@ int EseguiSollecitazioni(Sessione& sessione, const std::filesystem::path& file,
   if (!SalvaNodoSuFile(sessione, destinazione)) return kEsitoErrore;
   std::cout << "Sollecitazioni iniziali: " + std::to_string(prima) + "\n" +
                    "Sollecitazioni rimaste: " + std::to_string(sessione.nodo.nSollAg) + "\n";
-  return 0;
+  return kEsitoFatto;
 }
 
 }  // namespace qf17

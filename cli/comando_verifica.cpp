@@ -13,10 +13,30 @@
 
 namespace qf17 {
 
+namespace {
+
+nlohmann::json Avvertenze(const RaccoltaMessaggi& raccolta) {
+  nlohmann::json elenco = nlohmann::json::array();
+  for (const auto& voce : raccolta.Voci()) {
+    elenco.push_back({{"testo", voce.testo}, {"volte", voce.volte}});
+  }
+  return elenco;
+}
+
+}  // namespace
+
 int ComandoVerifica(Sessione& s, const std::filesystem::path& file, const std::string& metodo,
                     const std::string& fileJson) {
-  if (!ApriNodoDaFile(s, file)) return kEsitoErrore;
+  if (!ApriNodoPerComando(s, file)) return kEsitoErrore;
+  if (!fileJson.empty() && !UscitaNonSulNodo(s, fileJson, file)) return kEsitoErrore;
   if (!metodo.empty()) s.nodo.TipoVer = Maiuscolo(metodo) == "SLU" ? 1 : 0;
+  if (s.nodo.nSollAg == 0) {
+    s.piattaforma.Messaggio("Il nodo non ha sollecitazioni: verifica non eseguita.", "ERRORE",
+                            Icona::Critica, Pulsanti::Ok);
+    return kEsitoErrore;
+  }
+  // The boxes of the button's whole event, the warning on missing bolts included.
+  RaccoltaMessaggi raccolta(s.piattaforma);
   AvvisoBulloniMancanti(s);
   nlohmann::json documento;
   EsitoVerifica esito = EseguiVerifica(s, [&](const Sessione& sessione) {
@@ -25,13 +45,16 @@ int ComandoVerifica(Sessione& s, const std::filesystem::path& file, const std::s
   if (esito.fine != FineVerifica::Relazione) return kEsitoErrore;
   if (!fileJson.empty()) {
     AggiungiVerdetti(documento, s, esito);
+    documento["avvertenze"] = Avvertenze(raccolta);
     if (!ScriviFileSicuro(fileJson, documento.dump(1, '\t') + "\n")) {
-      std::cerr << "ERRORE: impossibile scrivere " << fileJson << "\n";
+      s.piattaforma.Messaggio("Errore: impossibile scrivere " + fileJson, "ERRORE", Icona::Critica,
+                              Pulsanti::Ok);
       return kEsitoErrore;
     }
   }
   std::cout << esito.relazione.string() << "\n";
-  return esito.nodoVerificato ? 0 : 1;
+  if (!esito.nodoVerificato) return kEsitoNonVerificato;
+  return raccolta.Voci().empty() ? kEsitoFatto : kEsitoConAvvertenze;
 }
 
 }  // namespace qf17

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <memory>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "comandi.h"
@@ -53,16 +54,26 @@ std::filesystem::path FileNodo(const Sessione& s, const std::string& nome) {
 }
 
 int Converti(Sessione& s, const std::string& ingresso, const std::string& uscita) {
-  if (!ApriNodoDaFile(s, FileNodo(s, ingresso))) return kEsitoErrore;
+  if (!ApriNodoPerComando(s, FileNodo(s, ingresso))) return kEsitoErrore;
   if (!SalvaNodoSuFile(s, uscita)) return kEsitoErrore;
   std::cout << std::filesystem::absolute(uscita).string() << "\n";
-  return 0;
+  return kEsitoFatto;
 }
 
 int Mostra(Sessione& s, const std::string& ingresso) {
   if (!ApriNodoDaFile(s, FileNodo(s, ingresso))) return kEsitoErrore;
   std::cout << DescrizioneNodo(s);
-  return 0;
+  return kEsitoFatto;
+}
+
+// Every --root is taken as given: made absolute, so that "." or ".." (which the family's launch
+// field would not take) still name the folder the user meant.
+std::string RigaDaRadice(const std::string& radice) {
+  std::error_code ec;
+  std::filesystem::path assoluta = std::filesystem::absolute(radice, ec).lexically_normal();
+  std::string testo = (ec ? std::filesystem::path(radice) : assoluta).string();
+  while (testo.size() > 1 && testo.back() == '/') testo.pop_back();
+  return "|diroot=" + testo + "|";
 }
 
 }  // namespace
@@ -96,7 +107,8 @@ int main(int argc, char** argv) {
   auto* verifica = app.add_subcommand(
       "verifica",
       "Verifica il nodo, scrive la relazione nella cartella del lavoro e ne stampa "
-      "il percorso (esito 0 verificato, 1 non verificato, 2 errore)");
+      "il percorso (esito 0 verificato, 1 non verificato, 3 verificato con avvertenze, "
+      "2 errore)");
   verifica->add_option("NODO", ingresso, "File nodo .qf7")->required();
   verifica->add_option("--metodo", metodo, "TA (tensioni ammissibili) o SLU (stati limite)")
       ->check(CLI::IsMember({"TA", "SLU"}, CLI::ignore_case));
@@ -107,32 +119,21 @@ int main(int argc, char** argv) {
   } catch (const CLI::ParseError& e) {
     return app.exit(e) == 0 ? 0 : kEsitoErrore;
   }
-  if (!radice.empty()) rigaFamiglia = "|diroot=" + radice + "|";
+  if (!radice.empty()) rigaFamiglia = RigaDaRadice(radice);
 
   PiattaformaCli piattaforma(annulla);
   try {
     auto sessione = std::make_unique<Sessione>(piattaforma);
-    Avvio(*sessione, rigaFamiglia, CartellaProgramma(argv[0]));
-    if (*converti) return Converti(*sessione, ingresso, uscita);
-    if (*verifica) {
-      return ComandoVerifica(*sessione, FileNodo(*sessione, ingresso), metodo, fileJson);
-    }
-    if (*nodo) return Mostra(*sessione, ingresso);
-    if (*disegna.comando) {
-      return EseguiDisegna(*sessione, FileNodo(*sessione, disegna.nodo), disegna);
-    }
-    if (*sollecitazioni.comando) {
-      return EseguiSollecitazioni(*sessione, FileNodo(*sessione, sollecitazioni.nodo),
-                                  sollecitazioni);
-    }
+    return EseguiComando(piattaforma, [&]() -> int {
+      Avvio(*sessione, rigaFamiglia, CartellaProgramma(argv[0]));
+      Sessione& s = *sessione;
+      if (*converti) return Converti(s, ingresso, uscita);
+      if (*verifica) return ComandoVerifica(s, FileNodo(s, ingresso), metodo, fileJson);
+      if (*nodo) return Mostra(s, ingresso);
+      if (*disegna.comando) return EseguiDisegna(s, FileNodo(s, disegna.nodo), disegna);
+      return EseguiSollecitazioni(s, FileNodo(s, sollecitazioni.nodo), sollecitazioni);
+    });
   } catch (const FineProgramma&) {
     return kEsitoErrore;
-  } catch (const ErroreFatale& e) {
-    std::cerr << "ERRORE: " << e.what() << std::endl;
-    return kEsitoErrore;
-  } catch (const std::exception& e) {
-    std::cerr << "ERRORE: " << e.what() << std::endl;
-    return kEsitoErrore;
   }
-  return kEsitoErrore;
 }

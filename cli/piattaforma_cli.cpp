@@ -23,8 +23,8 @@ void BufferizzaErrori() {
 
 }  // namespace
 
-Risposta PiattaformaCli::Messaggio(const std::string& testo, const std::string& titolo, Icona,
-                                   Pulsanti pulsanti) {
+Risposta PiattaformaCli::MostraMessaggio(const std::string& testo, const std::string& titolo, Icona,
+                                         Pulsanti pulsanti) {
   BufferizzaErrori();
   // One write of the whole line: the stream would flush standard output before each piece.
   std::string riga;

@@ -12,8 +12,8 @@ class PiattaformaCli : public Piattaforma {
  public:
   explicit PiattaformaCli(bool annulla = false) : annulla_(annulla) {}
 
-  Risposta Messaggio(const std::string& testo, const std::string& titolo, Icona icona,
-                     Pulsanti pulsanti) override;
+  Risposta MostraMessaggio(const std::string& testo, const std::string& titolo, Icona icona,
+                           Pulsanti pulsanti) override;
   std::optional<FileScelto> ScegliFileDaAprire(const RichiestaFile& richiesta) override;
   std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) override;

@@ -22,6 +22,7 @@ verifica() {
   case $esito in
     0) echo "   nodo verificato" ;;
     1) echo "   nodo NON verificato" ;;
+    3) echo "   verificato dalla relazione, ma con AVVERTENZE da leggere in fondo" ;;
     *) echo "   verifica non eseguita (esito $esito)"; exit "$esito" ;;
   esac
 }

@@ -17,8 +17,10 @@ constexpr std::string_view kVitiTitolo = "[VITI]";
 constexpr std::string_view kCalcestruzziTitolo = "[CALCESTRUZZI]";
 constexpr std::string_view kAcciaiCATitolo = "[ACCIAIO_DA_CA]";
 
-// Any malformed table: the whole file is not valid.
-struct FileNonValido {};
+// Any malformed table: the whole file is not valid. `motivo` says where, when it is known.
+struct FileNonValido {
+  std::string motivo;
+};
 
 // Walks the lines; a table that ends before its rows makes the file not valid.
 class Righe {
@@ -29,14 +31,27 @@ class Righe {
     if (Finite()) throw FileNonValido{};
     return righe_[prossima_++];
   }
+  // A reader of the same lines from where this one stands, to look ahead.
+  Righe Sbircia() const { return *this; }
+  // 1-based number of the line read last.
+  std::size_t Numero() const { return prossima_; }
 
  private:
   const std::vector<std::string>& righe_;
   std::size_t prossima_ = 0;
 };
 
-// The blank-separated numbers of a line; missing fields read as 0.
-std::vector<double> Numeri(std::string riga, std::size_t quanti) {
+// `quanti` blank-separated numbers of the next line, which must hold at least `minimi` of them
+// (the ones it lacks beyond those read as 0): a missing factor would read as 0 and every
+// resistance divided by it would be endless.
+std::vector<double> Numeri(Righe& righe, std::size_t quanti, const std::string& nome,
+                           std::size_t minimi) {
+  std::string riga = righe.Prossima();
+  const std::size_t campi = static_cast<std::size_t>(ContaToken(riga));
+  if (campi < minimi) {
+    throw FileNonValido{"riga " + std::to_string(righe.Numero()) + " (" + nome + "): " +
+                        std::to_string(campi) + " valori invece di " + std::to_string(quanti)};
+  }
   std::vector<double> v(quanti, 0.0);
   for (double& x : v) x = NumeroIniziale(ProssimoToken(riga));
   return v;
@@ -55,7 +70,7 @@ void LeggiAcciai(Righe& righe, Tabella<Acciaio, 0, kMaxMateriali>& tabella, int&
     Acciaio a;
     a.Nome = Rifila(righe.Prossima());
     a.Norma = Rifila(righe.Prossima());
-    auto v = Numeri(righe.Prossima(), 8);
+    auto v = Numeri(righe, 8, a.Nome, 8);
     a.SAmm = v[0];
     a.SAmm40 = v[1];
     a.fy = v[2];
@@ -73,7 +88,7 @@ void LeggiViti(Righe& righe, Materiali& m) {
   for (int i = 1; i <= m.NumViti; ++i) {
     Vite v;
     v.Nome = Rifila(righe.Prossima());
-    auto n = Numeri(righe.Prossima(), 6);
+    auto n = Numeri(righe, 6, v.Nome, 6);
     v.SAmmViti = n[0];
     v.TauAmmViti = n[1];
     v.fyViti = n[2];
@@ -89,7 +104,7 @@ void LeggiCalcestruzzi(Righe& righe, Materiali& m) {
   for (int i = 1; i <= m.NumCalcestruzzi; ++i) {
     Calcestruzzo c;
     c.Nome = Rifila(righe.Prossima());
-    auto n = Numeri(righe.Prossima(), 2);
+    auto n = Numeri(righe, 2, c.Nome, 2);
     c.Rck = n[0];
     c.Valore2 = n[1];
     m.Calcestruzzi[i] = c;
@@ -103,12 +118,12 @@ void LeggiAcciaiCA(Righe& righe, Materiali& m, bool& vecchio) {
   for (int i = 1; i <= m.NumAcciaiCA; ++i) {
     AcciaioCA a;
     a.Nome = Rifila(righe.Prossima());
-    const std::string& riga = righe.Prossima();
-    if (ContaToken(riga) >= 5) {
-      auto n = Numeri(riga, 6);
+    Righe riga = righe.Sbircia();
+    if (ContaToken(riga.Prossima()) >= 5) {
+      auto n = Numeri(righe, 6, a.Nome, 5);
       for (int k = 0; k < 6; ++k) a.Valori[k] = n[k];
     } else {
-      auto n = Numeri(riga, 4);
+      auto n = Numeri(righe, 4, a.Nome, 4);
       a.Valori[0] = n[0];
       a.Valori[1] = 5400;
       a.Valori[2] = n[1];
@@ -171,15 +186,17 @@ EsitoMateriali LeggiMateriali(Materiali& materiali, const std::filesystem::path&
   // Read into fresh tables, so that a bad file leaves the current ones whole.
   Materiali letti;
   bool completo = false;
+  std::string motivo;
   try {
     completo = LeggiTabelle(*righe, letti, esito.vecchio);
-  } catch (const FileNonValido&) {
+  } catch (const FileNonValido& e) {
     completo = false;
+    motivo = e.motivo;
   } catch (const ErroreFatale&) {
     completo = false;  // a number beyond range
   }
   if (!completo) {
-    esito.errore = errore;
+    esito.errore = motivo.empty() ? errore : errore + ":\n" + motivo;
     esito.vecchio = false;
     return esito;
   }

@@ -2,6 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
 
 #include "librerie/numeri.h"
 #include "librerie/token.h"
@@ -52,6 +56,33 @@ FattoreUnita Tensione(std::string_view nome, double g) {
   if (Contiene(nome, "kPa")) return {100, 0};
   if (Contiene(nome, "MPa")) return {0.1, 2};
   return {};
+}
+
+constexpr std::array<std::string_view, 3> kLunghezze = {"mm", "cm", "m"};
+constexpr std::array<std::string_view, 5> kForze = {"daN", "kN", "N", "kgf", "t"};
+
+bool UnaDi(std::string_view nome, const auto& nomi) {
+  return std::find(nomi.begin(), nomi.end(), nome) != nomi.end();
+}
+
+// A force over a length or its square ("daN/cm2", "N/mm2"), or one of the pressure names.
+bool TensioneEsatta(std::string_view nome) {
+  if (nome == "kPa" || nome == "MPa") return true;
+  const std::size_t barra = nome.find('/');
+  if (barra == kNo) return false;
+  std::string_view lunghezza = nome.substr(barra + 1);
+  if (!lunghezza.empty() && lunghezza.back() == '2') lunghezza.remove_suffix(1);
+  return UnaDi(nome.substr(0, barra), kForze) && UnaDi(lunghezza, kLunghezze);
+}
+
+// A force followed by a length ("daNm", "kNm", "Nmm").
+bool MomentoEsatto(std::string_view nome) {
+  for (std::string_view forza : kForze) {
+    if (nome.substr(0, forza.size()) == forza && UnaDi(nome.substr(forza.size()), kLunghezze)) {
+      return true;
+    }
+  }
+  return false;
 }
 
 // In the family's files "8" stands for "/" in unit names, which "/" would cut.
@@ -129,6 +160,22 @@ UnitaLavoro UnitaPredefinite() {
   return u;
 }
 
+std::vector<std::string> UnitaNonRiconosciute(const UnitaLavoro& u) {
+  const std::tuple<const char*, const std::string&, bool> unita[] = {
+      {"lunghezze", u.UniLunghezze, UnaDi(u.UniLunghezze, kLunghezze)},
+      {"forze", u.UniForze, UnaDi(u.UniForze, kForze)},
+      {"carichi_superficie", u.UniCarichi, TensioneEsatta(u.UniCarichi)},
+      {"coppie_momenti", u.UniMomenti, MomentoEsatto(u.UniMomenti)},
+      {"tensioni", u.UniTensioni, TensioneEsatta(u.UniTensioni)},
+      {"dati_sezioni", u.UniSezioni, UnaDi(u.UniSezioni, kLunghezze)},
+  };
+  std::vector<std::string> ignote;
+  for (const auto& [chiave, nome, esatta] : unita) {
+    if (!esatta) ignote.push_back(std::string(chiave) + " \"" + nome + "\"");
+  }
+  return ignote;
+}
+
 void LeggiUnitaLavoro(Sessione& sessione) {
   const std::filesystem::path file = Percorso(sessione.nodo.DirLavoro) / "parametrilavoro";
   UnitaLavoro unita;
@@ -142,6 +189,16 @@ void LeggiUnitaLavoro(Sessione& sessione) {
   }
   ParUni(unita);
   sessione.unita = unita;
+  // The factors stay as the rules give them, but a name that is not one of the rules' own is
+  // read by a part of it ("KN" as N), or not at all, and every figure would show wrong.
+  const std::vector<std::string> ignote = UnitaNonRiconosciute(unita);
+  if (ignote.empty()) return;
+  std::string elenco;
+  for (const std::string& voce : ignote) elenco += (elenco.empty() ? "" : ", ") + voce;
+  sessione.piattaforma.Messaggio("File " + file.string() + ": unità non riconosciute: " + elenco +
+                                     ". Le grandezze in queste unità possono essere mostrate "
+                                     "con valori errati.",
+                                 "ATTENZIONE", Icona::Attenzione, Pulsanti::Ok);
 }
 
 void ParUni(UnitaLavoro& u) {

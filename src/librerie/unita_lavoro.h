@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "librerie/unita.h"
 #include "piattaforma/piattaforma.h"
@@ -14,8 +15,14 @@ struct Sessione;
 
 // Reads parametrilavoro of the job folder and computes the factors (ParUni). A file that is
 // missing or unreadable is told to the user under "ATTENZIONE" and the job gets the units of
-// UnitaPredefinite.
+// UnitaPredefinite. Unit names that are not exactly one of the rules' names are told once, under
+// "ATTENZIONE", naming the file and the names; their factors stay as the rules give them.
 void LeggiUnitaLavoro(Sessione& sessione);
+
+// The unit names of `unita` that are not exactly a name of the rules (lengths mm, cm, m; forces
+// daN, kN, N, kgf, t; stresses and loads a force over a length or its square, kPa, MPa; moments
+// a force followed by a length), each as its key and the name in quotes: `forze "KN"`.
+std::vector<std::string> UnitaNonRiconosciute(const UnitaLavoro& unita);
 
 // The unit names and constants of one parametrilavoro file into `unita`; the keys the file does
 // not hold leave their fields alone. False when the file cannot be read, is empty or holds a

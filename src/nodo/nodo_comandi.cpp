@@ -23,18 +23,25 @@ std::string NomeDaPercorso(const std::filesystem::path& file) {
   return SenzaEstensione(SoloNomeFile(file.string()));
 }
 
-// A node file holds names only: sections and materials are the current libraries' rows.
-void RisolviNomi(Sessione& sessione, Nodo& nodo) {
+// A node file holds names only: sections and materials are the current libraries' rows. False
+// when a name was not found (the user was told, and the empty row 0 took its place).
+bool RisolviNomi(Sessione& sessione, Nodo& nodo) {
   Piattaforma& p = sessione.piattaforma;
   LibreriaProfili& libreria = sessione.profili;
-  nodo.Corrente = libreria.Profili[ProfiloDaNome(libreria, nodo.Corrente.Nome, p)];
+  bool trovati = true;
+  auto riga = [&trovati](int indice) {
+    trovati = trovati && indice != 0;
+    return indice;
+  };
+  nodo.Corrente = libreria.Profili[riga(ProfiloDaNome(libreria, nodo.Corrente.Nome, p))];
   for (int i = 1; i <= kMaxAste; ++i) {
-    nodo.Aste[i] = libreria.Profili[ProfiloDaNome(libreria, nodo.Aste[i].Nome, p)];
+    nodo.Aste[i] = libreria.Profili[riga(ProfiloDaNome(libreria, nodo.Aste[i].Nome, p))];
   }
   CompletaProfili(libreria);
   const Materiali& m = sessione.materiali;
-  nodo.acciaio = m.Acciai[AcciaioDaNome(m, nodo.acciaio.Nome, p)];
-  nodo.vite = m.Viti[ViteDaNome(m, nodo.vite.Nome, p)];
+  nodo.acciaio = m.Acciai[riga(AcciaioDaNome(m, nodo.acciaio.Nome, p))];
+  nodo.vite = m.Viti[riga(ViteDaNome(m, nodo.vite.Nome, p))];
+  return trovati;
 }
 
 }  // namespace
@@ -64,8 +71,9 @@ bool ApriNodoDaFile(Sessione& sessione, const std::filesystem::path& file) {
   }
 
   letto.NomeFileNodo = NomeDaPercorso(file);
-  RisolviNomi(sessione, letto);
+  const bool trovati = RisolviNomi(sessione, letto);
   sessione.nodo = std::move(letto);
+  sessione.NomiMancanti = !trovati;
   ControllaMateriali(sessione);
   RiempiListaAcciai(sessione, sessione.nodo.acciaio.Nome);
   return true;

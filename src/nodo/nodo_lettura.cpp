@@ -31,6 +31,15 @@ struct Valore {
   double Numero() const { return NumeroIniziale(testo); }
   double Radianti() const { return GradiInRadianti(Numero()); }
   std::int16_t Intero() const { return InI16(Numero()); }
+  // A field that names one of a few choices: any other value would be read by the engine as
+  // one of them (a mode 7 counts as double for the forces and as single in the report).
+  std::int16_t Scelta(int massimo) const {
+    std::int16_t n = Intero();
+    if (n < 0 || n > massimo) {
+      throw ErroreFatale("valore " + testo + " non ammesso (0.." + std::to_string(massimo) + ")");
+    }
+    return n;
+  }
   // A count sizes a table: beyond it the rest of the program could not hold the rows.
   std::int16_t Conteggio(int massimo) const {
     std::int16_t n = Intero();
@@ -48,17 +57,23 @@ struct Voce {
   Gestore gestore;
 };
 
-void LeggiEsposizione(Nodo& n, const Valore& v) {
+// Exposure and method are strict integers: a text there is not a choice at all.
+std::int16_t SceltaStretta(const Valore& v, int massimo) {
   std::int16_t e = InteroStretto(v.testo);
-  if (e < 0 || e > 2) {
-    throw ErroreFatale("valore " + std::to_string(e) + " fuori dai limiti 0..2");
+  if (e < 0 || e > massimo) {
+    throw ErroreFatale("valore " + std::to_string(e) + " fuori dai limiti 0.." +
+                       std::to_string(massimo));
   }
-  n.Esposizione = e;
+  return e;
+}
+
+void LeggiEsposizione(Nodo& n, const Valore& v) {
+  n.Esposizione = SceltaStretta(v, 2);
 }
 
 void LeggiFlag(Nodo& n, const Valore& v) {
   int i = v.Asta();
-  n.Ast_flag[i] = v.Intero();
+  n.Ast_flag[i] = v.Scelta(1);
   // The second profile's slot always mirrors the member's own.
   if (i >= 1 && i <= kMaxAste) n.Ast_flag[i + 3] = n.Ast_flag[i];
 }
@@ -70,8 +85,8 @@ const std::array<Voce, 34> kVoci = {{
     {"Cor_teta", [](Nodo& n, const Valore& v) { n.Cor_teta = v.Radianti(); }},
     {"Ast_nome", [](Nodo& n, const Valore& v) { n.Aste[v.Asta()].Nome = v.testo; }},
     {"Ast_flag", LeggiFlag},
-    {"Ast_modo", [](Nodo& n, const Valore& v) { n.Ast_modo[v.Asta()] = v.Intero(); }},
-    {"Ast_lato", [](Nodo& n, const Valore& v) { n.Ast_lato[v.Asta()] = v.Intero(); }},
+    {"Ast_modo", [](Nodo& n, const Valore& v) { n.Ast_modo[v.Asta()] = v.Scelta(2); }},
+    {"Ast_lato", [](Nodo& n, const Valore& v) { n.Ast_lato[v.Asta()] = v.Scelta(1); }},
     {"Ast_teta", [](Nodo& n, const Valore& v) { n.Ast_teta[v.Asta()] = v.Radianti(); }},
     {"Ast_ins", [](Nodo& n, const Valore& v) { n.Ast_ins[v.Indice(0, 0, 3)] = v.Numero(); }},
     {"Ast_coeff", [](Nodo& n, const Valore& v) { n.Ast_coeff[v.Asta()] = v.Numero(); }},
@@ -102,7 +117,7 @@ const std::array<Voce, 34> kVoci = {{
      }},
     {"CasoCarico",
      [](Nodo& n, const Valore& v) {
-       n.CasoCarico[v.Indice(0, 0, kMaxSollecitazioni)] = v.Intero();
+       n.CasoCarico[v.Indice(0, 0, kMaxSollecitazioni)] = v.Scelta(1);
      }},
     {"NomeSa",
      [](Nodo& n, const Valore& v) { n.NomeSa[v.Indice(0, 0, kMaxSollecitazioni)] = v.testo; }},
@@ -111,11 +126,12 @@ const std::array<Voce, 34> kVoci = {{
      [](Nodo& n, const Valore& v) {
        n.NomeNodi[v.Indice(0, 0, kMaxNodiImportati)] = v.Intero();
      }},
-    {"TipoVer", [](Nodo& n, const Valore& v) { n.TipoVer = InteroStretto(v.testo); }},
+    {"TipoVer", [](Nodo& n, const Valore& v) { n.TipoVer = SceltaStretta(v, 1); }},
 }};
 
 // The indices persist from line to line: a key written without them reuses the last ones read.
-void LeggiRiga(Nodo& nodo, std::string_view riga, IndiciChiave& indici) {
+// False when the line holds none of the node's keys.
+bool LeggiRiga(Nodo& nodo, std::string_view riga, IndiciChiave& indici) {
   for (const Voce& voce : kVoci) {
     std::string testo;
     try {
@@ -124,8 +140,9 @@ void LeggiRiga(Nodo& nodo, std::string_view riga, IndiciChiave& indici) {
     } catch (const ErroreFatale& e) {
       throw ErroreFatale("chiave [" + std::string(voce.chiave) + "]: " + e.what());
     }
-    return;
+    return true;
   }
+  return false;
 }
 
 }  // namespace
@@ -138,17 +155,21 @@ bool LeggiNodo(Nodo& nodo, const std::filesystem::path& file, Piattaforma& piatt
     return false;
   }
   IndiciChiave indici{};
+  bool chiavi = false;
   for (std::size_t r = 1; r < righe->size(); ++r) {
     try {
-      LeggiRiga(nodo, (*righe)[r], indici);
+      chiavi = LeggiRiga(nodo, (*righe)[r], indici) || chiavi;
     } catch (const ErroreFatale& e) {
       throw ErroreFatale("File " + file.string() + ", riga " + std::to_string(r + 1) + ", " +
                          e.what());
     }
   }
-  // The method is an option pair: anything but 1 selects the first.
-  nodo.TipoVer =
-      static_cast<std::int16_t>(nodo.TipoVer == 1 ? TipoVerifica::SLU : TipoVerifica::TA);
+  // Missing keys keep the node's values, so a text without any key would pass for the node
+  // already in memory.
+  if (!chiavi) {
+    throw ErroreFatale("File " + file.string() +
+                       ": non contiene i dati di un nodo (nessuna chiave del file nodo)");
+  }
   return true;
 }
 

@@ -67,11 +67,11 @@ class Voci {
 void LeggiAste(Nodo& n, Voci& v) {
   for (int i = 1; i <= kMaxAste; ++i) {
     n.Aste[i].Nome = v.Testo();
-    n.Ast_flag[i] = v.Intero();
+    n.Ast_flag[i] = v.Compreso(0, 1);
     n.Ast_flag[i + 3] = n.Ast_flag[i];
-    n.Aste[i].Tipo = v.Intero();
-    n.Ast_modo[i] = v.Intero();
-    n.Ast_lato[i] = v.Intero();
+    n.Aste[i].Tipo = v.Compreso(0, 2);
+    n.Ast_modo[i] = v.Compreso(0, 2);
+    n.Ast_lato[i] = v.Compreso(0, 1);
     n.Ast_ins[i] = v.Numero();
     n.Ast_teta[i] = v.Gradi();
     n.Saldature(i, 1).Sld_L = v.Numero();
@@ -118,7 +118,7 @@ void LeggiSollecitazioni(Nodo& n, Voci& v) {
   n.nSollAg = v.Compreso(0, kMaxSollecitazioni);
   for (int j = 1; j <= n.nSollAg; ++j) {
     for (int i = 1; i <= kMaxAste; ++i) n.SforzoNormale(i, j) = v.Numero();
-    n.CasoCarico[j] = v.Intero();
+    n.CasoCarico[j] = v.Compreso(0, 1);
     n.NomeSa[j] = v.Testo();
   }
   n.NumNodi = v.Compreso(0, kMaxNodiImportati);

@@ -36,6 +36,10 @@ struct Sessione {
   FontTratti font;
   StiliGRB stiliGrb;
   GeometriaFazzoletto geometria;
+  // The node in use was opened with a section, steel or bolt class name that the libraries
+  // lack: the user was told, and an empty row stands in its place. Commands that write a file
+  // from such a node refuse to.
+  bool NomiMancanti = false;
   ArchivioDisegno disegno;
 
   // The verification's tables, made on the first run (they are large) and kept, as the family

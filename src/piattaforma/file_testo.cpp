@@ -100,8 +100,10 @@ std::string PrimiCaratteri(std::string_view testo, std::size_t n) {
 }
 
 std::optional<std::string> LeggiByte(const std::filesystem::path& percorso) {
+  // Only a regular file (or a link to one) has an end: a device such as /dev/zero or a pipe
+  // would be read until memory runs out.
   std::error_code ec;
-  if (std::filesystem::is_directory(percorso, ec)) return std::nullopt;
+  if (!std::filesystem::is_regular_file(percorso, ec)) return std::nullopt;
   std::ifstream in(percorso, std::ios::binary);
   if (!in) return std::nullopt;
   std::ostringstream buffer;
@@ -117,13 +119,13 @@ std::optional<std::vector<std::string>> LeggiRighe(const std::filesystem::path& 
   std::size_t inizio = 0;
   const std::string& b = *byte;
   while (inizio < b.size()) {
-    std::size_t fine = b.find('\n', inizio);
+    // CR LF, LF and a CR alone (an old Macintosh file) each end one line.
+    std::size_t fine = b.find_first_of("\r\n", inizio);
     std::size_t fineRiga = fine == std::string::npos ? b.size() : fine;
-    std::size_t lunghezza = fineRiga - inizio;
-    if (lunghezza > 0 && b[fineRiga - 1] == '\r') --lunghezza;
-    righe.push_back(Cp1252InUtf8(std::string_view(b).substr(inizio, lunghezza)));
+    righe.push_back(Cp1252InUtf8(std::string_view(b).substr(inizio, fineRiga - inizio)));
     if (fine == std::string::npos) break;
     inizio = fine + 1;
+    if (b[fine] == '\r' && inizio < b.size() && b[inizio] == '\n') ++inizio;
   }
   return righe;
 }

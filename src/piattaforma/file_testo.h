@@ -18,10 +18,10 @@ std::size_t NumeroCaratteri(std::string_view testo);
 // The first `n` characters of a UTF-8 text.
 std::string PrimiCaratteri(std::string_view testo, std::size_t n);
 
-// Whole file as raw bytes; no value when it cannot be opened.
+// Whole file as raw bytes; no value when it cannot be opened or is not a regular file.
 std::optional<std::string> LeggiByte(const std::filesystem::path& percorso);
-// The lines of a family file, decoded; CR LF and LF both end a line, a last line without an
-// end still counts. No value when the file cannot be opened.
+// The lines of a family file, decoded; CR LF, LF and CR alone each end a line, a last line
+// without an end still counts. No value when the file cannot be opened.
 std::optional<std::vector<std::string>> LeggiRighe(const std::filesystem::path& percorso);
 
 // Appends a line to a family file's content: encoded in Windows-1252, ended by CR LF.

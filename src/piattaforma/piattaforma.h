@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <unordered_map>
+#include <vector>
 
 namespace qf17 {
 
@@ -25,15 +28,20 @@ struct FileScelto {
   int indiceFiltro = 1;
 };
 
+class RaccoltaMessaggi;
+
 // The only way the core reaches the user or the operating system. The core never prints, opens a
 // window or starts a process by itself.
 class Piattaforma {
  public:
   virtual ~Piattaforma() = default;
 
-  // A modal box: exact text, title, icon and buttons. Returns the button pressed.
-  virtual Risposta Messaggio(const std::string& testo, const std::string& titolo, Icona icona,
-                             Pulsanti pulsanti) = 0;
+  // A modal box: exact text, title, icon and buttons. Returns the button pressed. While a
+  // RaccoltaMessaggi is open on this platform, the text is also kept there.
+  Risposta Messaggio(const std::string& testo, const std::string& titolo, Icona icona,
+                     Pulsanti pulsanti);
+  // The collection open on this platform, if any.
+  const RaccoltaMessaggi* Raccolta() const { return raccolta_; }
   // File choice; no value when the user cancels.
   virtual std::optional<FileScelto> ScegliFileDaAprire(const RichiestaFile& richiesta) = 0;
   virtual std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile& richiesta) = 0;
@@ -53,6 +61,41 @@ class Piattaforma {
   void Avviso(const std::string& testo, const std::string& titolo, Icona icona = Icona::Nessuna) {
     Messaggio(testo, titolo, icona, Pulsanti::Ok);
   }
+
+ protected:
+  // What each platform does with a box.
+  virtual Risposta MostraMessaggio(const std::string& testo, const std::string& titolo, Icona icona,
+                                   Pulsanti pulsanti) = 0;
+
+ private:
+  friend class RaccoltaMessaggi;
+  RaccoltaMessaggi* raccolta_ = nullptr;
+};
+
+// Keeps every message shown on a platform while it lives (one command, such as a verification
+// run), each text once with how many times it came, in the order of first appearance: what the
+// user clicked away must still reach the report. Only the outermost of nested collections
+// collects; an inner one stays empty.
+class RaccoltaMessaggi {
+ public:
+  struct Voce {
+    std::string testo;
+    std::size_t volte = 0;
+  };
+
+  explicit RaccoltaMessaggi(Piattaforma& piattaforma);
+  ~RaccoltaMessaggi();
+  RaccoltaMessaggi(const RaccoltaMessaggi&) = delete;
+  RaccoltaMessaggi& operator=(const RaccoltaMessaggi&) = delete;
+
+  const std::vector<Voce>& Voci() const { return voci_; }
+  void Aggiungi(const std::string& testo);
+
+ private:
+  Piattaforma& piattaforma_;
+  bool attiva_ = false;
+  std::vector<Voce> voci_;
+  std::unordered_map<std::string, std::size_t> indice_;
 };
 
 }  // namespace qf17

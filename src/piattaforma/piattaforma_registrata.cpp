@@ -2,8 +2,8 @@
 
 namespace qf17 {
 
-Risposta PiattaformaRegistrata::Messaggio(const std::string& testo, const std::string& titolo,
-                                          Icona icona, Pulsanti pulsanti) {
+Risposta PiattaformaRegistrata::MostraMessaggio(const std::string& testo, const std::string& titolo,
+                                                Icona icona, Pulsanti pulsanti) {
   messaggi.push_back({testo, titolo, icona, pulsanti});
   if (risposte.empty()) return Risposta::Ok;
   Risposta r = risposte.front();

@@ -29,8 +29,8 @@ class PiattaformaRegistrata : public Piattaforma {
     bool attendi;
   };
 
-  Risposta Messaggio(const std::string& testo, const std::string& titolo, Icona icona,
-                     Pulsanti pulsanti) override;
+  Risposta MostraMessaggio(const std::string& testo, const std::string& titolo, Icona icona,
+                           Pulsanti pulsanti) override;
   std::optional<FileScelto> ScegliFileDaAprire(const RichiestaFile& richiesta) override;
   std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) override;

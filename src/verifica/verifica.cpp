@@ -1,6 +1,7 @@
 #include "verifica/verifica.h"
 
 #include <cmath>
+#include <optional>
 #include <string>
 
 #include "nodo/nodo_default.h"
@@ -13,6 +14,7 @@
 #include "verifica/profili.h"
 #include "verifica/relazioni/relazione_slu.h"
 #include "verifica/relazioni/relazione_ta.h"
+#include "verifica/risultati_finiti.h"
 #include "verifica/sezioni_cache.h"
 
 namespace qf17 {
@@ -40,6 +42,29 @@ bool FazzolettoValido(Sessione& s) {
   return true;
 }
 
+// The limit-state figures divide by the partial factors and by the steel's ft: a zero there
+// (a materials row written so) would print endless resistances.
+bool DivisoriMaterialiValidi(Sessione& s) {
+  const Nodo& n = s.nodo;
+  struct Divisore {
+    const char* nome;
+    const std::string& materiale;
+    double valore;
+  };
+  const Divisore divisori[] = {
+      {"gM dell'acciaio ", n.acciaio.Nome, n.acciaio.gM},
+      {"ft dell'acciaio ", n.acciaio.Nome, n.acciaio.ft},
+      {"gM della classe di viti ", n.vite.Nome, n.vite.gMViti},
+  };
+  for (const Divisore& d : divisori) {
+    if (d.valore > 0 && std::isfinite(d.valore)) continue;
+    Avviso(s, "Valore " + std::string(d.nome) + d.materiale +
+                  " nullo nei materiali: impossibile procedere alla verifica");
+    return false;
+  }
+  return true;
+}
+
 // Data that would turn a stress into a division by zero: a missing section, a weld without
 // leg, a bolt without diameter. The family's program would print infinities; this one stops.
 bool DatiValidi(Sessione& s) {
@@ -58,6 +83,7 @@ bool DatiValidi(Sessione& s) {
     Avviso(s, "Lato della saldatura nullo: impossibile procedere alla verifica");
     return false;
   }
+  if (n.TipoVer == 1 && !DivisoriMaterialiValidi(s)) return false;
   const char* gruppi[] = {"del corrente", "dell'asta A", "dell'asta B", "dell'asta C"};
   for (int g = 0; g <= 3; ++g) {
     for (int k = 1; k <= n.nBull[g]; ++k) {
@@ -72,27 +98,11 @@ bool DatiValidi(Sessione& s) {
 
 // The last guard before the report: no figure of the run may be infinite or not a number.
 bool RisultatiFiniti(Sessione& s) {
-  const Nodo& n = s.nodo;
-  const RisultatiVerifica& r = s.Risultati();
-  for (int j = 1; j <= n.nSollAg; ++j) {
-    bool finiti = std::isfinite(r.SigSotto[j]) && std::isfinite(r.TauCorr[j]) &&
-                  std::isfinite(n.Saldature(4, 1).TauPar[j]) &&
-                  std::isfinite(n.Saldature(4, 1).SigPerp[j]);
-    for (int g = 0; g <= 3 && finiti; ++g) {
-      finiti = std::isfinite(r.SigProf(g, j)) && std::isfinite(r.SigDiff(g, j));
-      for (int k = 1; k <= n.nBull[g] && finiti; ++k) {
-        finiti = n.TipoVer == 1
-                     ? std::isfinite(r.FedBull(g, k, j)) && std::isfinite(r.RapportoBull(g, k, j))
-                     : std::isfinite(r.TauBull(g, k, j)) && std::isfinite(r.RifBull(g, k, j));
-      }
-    }
-    if (!finiti) {
-      Avviso(s, "Risultato non numerico nella combinazione " + std::to_string(j) +
-                    ": controllare i dati del nodo. Relazione non scritta");
-      return false;
-    }
-  }
-  return true;
+  const std::string nome = PrimoRisultatoNonFinito(s.nodo, s.Risultati(), s.nodo.TipoVer == 1);
+  if (nome.empty()) return true;
+  Avviso(s, "Risultato non numerico (" + nome +
+                "): controllare i dati del nodo e dei materiali. Relazione non scritta");
+  return false;
 }
 
 // The member's angle reduced to a half turn equals the chord's: no node can be formed.
@@ -231,6 +241,10 @@ void AvvisoBulloniMancanti(Sessione& s) {
 EsitoVerifica EseguiVerifica(Sessione& s,
                              const std::function<void(const Sessione&)>& primaDellaRelazione) {
   EsitoVerifica esito;
+  // Every box of the run goes into the report too; a caller may have opened the collection
+  // already, to keep the boxes that come before the run.
+  std::optional<RaccoltaMessaggi> raccolta;
+  if (s.piattaforma.Raccolta() == nullptr) raccolta.emplace(s.piattaforma);
   s.piattaforma.Occupato(true);
   struct Ripristino {
     Piattaforma& p;

@@ -80,7 +80,11 @@ TEST(MaterialiFile, OgniTabella) {
   EXPECT_EQ(a.Norma, "Norma è");
   EXPECT_EQ((std::array{a.SAmm, a.SAmm40, a.fy, a.ft, a.fy40, a.ft40, a.gM, a.gMT}),
             (std::array<double, 8>{1, 2, 3, 4, 5, 6, 7, 8}));
-  EXPECT_EQ(m.Acciai[2], (Acciaio{"Acciaio corto", "Norma", 9}));
+  // Fields beyond the table's own are left alone.
+  const Acciaio& b = m.Acciai[2];
+  EXPECT_EQ(b.Nome, "Acciaio lungo");
+  EXPECT_EQ((std::array{b.SAmm, b.SAmm40, b.fy, b.ft, b.fy40, b.ft40, b.gM, b.gMT}),
+            (std::array<double, 8>{9, 10, 11, 12, 13, 14, 15, 16}));
 
   ASSERT_EQ(m.NumAcciaiChiusi, 1);
   EXPECT_EQ(m.AcciaiChiusi[1].Nome, "S 355 H");
@@ -88,7 +92,7 @@ TEST(MaterialiFile, OgniTabella) {
 
   ASSERT_EQ(m.NumViti, 2);
   EXPECT_EQ(m.Viti[1], (Vite{"4.6", 11, 12, 13, 14, 15, 16}));
-  EXPECT_EQ(m.Viti[2], (Vite{"8.8", 21, 22, 0, 0, 0, 0}));
+  EXPECT_EQ(m.Viti[2], (Vite{"8.8", 21, 22, 23, 24, 25, 26}));
 
   ASSERT_EQ(m.NumCalcestruzzi, 1);
   EXPECT_EQ(m.Calcestruzzi[1].Nome, "C25/30");
@@ -136,6 +140,7 @@ TEST(MaterialiFile, FileNonValido) {
   struct Caso {
     const char* nome;
     std::string testo;
+    std::string motivo = {};
   };
   const Caso casi[] = {
       {"51 righe", troppe},
@@ -144,9 +149,14 @@ TEST(MaterialiFile, FileNonValido) {
       {"conteggio mancante", acciai + "[VITI]"},
       {"senza viti", acciai},
       {"senza acciai", "[VITI]\n0\n"},
-      {"numero fuori scala", acciai + "[VITI]\n1\n8.8\n1e999\n"},
+      {"numero fuori scala", acciai + "[VITI]\n1\n8.8\n1e999 1 1 1 1 1\n"},
       {"conteggio fuori scala", acciai + "[VITI]\n1e999\n"},
       {"vuoto", ""},
+      // A missing factor read as 0 made every resistance divided by it endless.
+      {"vite senza gMViti", acciai + "[VITI]\n1\n8.8\n1 2 3 4 5\n",
+       ":\nriga 9 (8.8): 5 valori invece di 6"},
+      {"acciaio corto", "[ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE]\n1\nS 235\nN\n1 2 3 4 5 6 7\n",
+       ":\nriga 5 (S 235): 7 valori invece di 8"},
   };
   prova::CartellaProva t;
   for (const Caso& c : casi) {
@@ -156,7 +166,8 @@ TEST(MaterialiFile, FileNonValido) {
     m.Acciai[1].Nome = "prima";
     auto file = t.Scrivi("m.tx1", c.testo);
     EsitoMateriali esito = LeggiMateriali(m, file);
-    EXPECT_EQ(esito.errore, "File materiali (" + file.string() + ") non trovato o non valido");
+    EXPECT_EQ(esito.errore,
+              "File materiali (" + file.string() + ") non trovato o non valido" + c.motivo);
     EXPECT_EQ(m.NumAcciai, 1);
     EXPECT_EQ(m.Acciai[1].Nome, "prima");
   }

@@ -163,12 +163,12 @@ TEST_F(LetturaChiavi, LeTreGrafieDeiBulloni) {
 
 TEST_F(LetturaChiavi, NumeriIniziali) {
   ASSERT_TRUE(
-      Leggi("12abc [Fz_c]\r\nabc [Fz_d]\r\n2.5 [Ast_modo 1]\r\n3.5 [Ast_lato 1]\r\n"
+      Leggi("12abc [Fz_c]\r\nabc [Fz_d]\r\n2.5 [Ast_modo 1]\r\n0.6 [Ast_lato 1]\r\n"
             "-0.5 [CasoCarico 1]\r\n90 [Ast_teta 2]\r\n1.5e2 [Fz_e]\r\n"));
   EXPECT_EQ(nodo_.Fz_c, 12);
   EXPECT_EQ(nodo_.Fz_d, 0);
   EXPECT_EQ(nodo_.Ast_modo[1], 2);
-  EXPECT_EQ(nodo_.Ast_lato[1], 4);
+  EXPECT_EQ(nodo_.Ast_lato[1], 1);
   EXPECT_EQ(nodo_.CasoCarico[1], 0);
   EXPECT_EQ(nodo_.Ast_teta[2], 90 * 3.14159265358979 / 180);
   EXPECT_EQ(nodo_.Fz_e, 150);
@@ -186,9 +186,9 @@ TEST_F(LetturaChiavi, ZeroBulloniLascianoLeRigheVecchie) {
   EXPECT_EQ(nodo_.xBull(1, 2), 85);
 }
 
-TEST_F(LetturaChiavi, MetodoDiversoDaUnoEIlPrimo) {
-  ASSERT_TRUE(Leggi("2 [TipoVer]\r\n"));
-  EXPECT_EQ(nodo_.TipoVer, 0);
+// The method is a choice of two: a 2 is not read as the first, it is a damaged file.
+TEST_F(LetturaChiavi, MetodoSoloZeroOUno) {
+  EXPECT_THROW(Leggi("2 [TipoVer]\r\n"), ErroreFatale);
   ASSERT_TRUE(Leggi(" 1 [TipoVer]\r\n"));
   EXPECT_EQ(nodo_.TipoVer, 1);
 }

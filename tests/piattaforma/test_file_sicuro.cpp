@@ -16,10 +16,16 @@ namespace fs = std::filesystem;
 using prova::CartellaProva;
 using prova::LeggiTutto;
 
+// Any file beside the target whose name begins with the target's: a temporary of its writer.
 bool TemporaneoRimasto(const fs::path& file) {
-  fs::path t = file;
-  t += ".tmp~";
-  return fs::exists(t);
+  std::error_code ec;
+  for (const auto& voce : fs::directory_iterator(file.parent_path(), ec)) {
+    const std::string nome = voce.path().filename().string();
+    if (nome != file.filename().string() && nome.rfind(file.filename().string(), 0) == 0) {
+      return true;
+    }
+  }
+  return false;
 }
 
 TEST(FileSicuro, PezziConfermati) {
@@ -67,6 +73,26 @@ TEST(FileSicuro, DestinazioneImpossibile) {
   }
   EXPECT_TRUE(fs::is_directory(cartellaConNome));
   EXPECT_FALSE(fs::exists(cartella.percorso() / "manca"));
+}
+
+// Two writers of one file at once (two runs writing the same report) each have a temporary of
+// their own: the file ends as one writer's whole text, never a mix, and nothing stays beside it.
+TEST(FileSicuro, DueScrittoriDelloStessoFile) {
+  CartellaProva cartella;
+  const fs::path file = cartella.percorso() / "rel.txt";
+  FileSicuro primo(file);
+  FileSicuro secondo(file);
+  for (int i = 0; i < 1000; ++i) {
+    primo.Scrivi("primo ");
+    secondo.Scrivi("II ");
+  }
+  ASSERT_TRUE(primo.Conferma());
+  EXPECT_EQ(LeggiTutto(file).size(), 6000u);
+  ASSERT_TRUE(secondo.Conferma());
+  std::string atteso;
+  for (int i = 0; i < 1000; ++i) atteso += "II ";
+  EXPECT_EQ(LeggiTutto(file), atteso);
+  EXPECT_FALSE(TemporaneoRimasto(file));
 }
 
 // Poured into its file a block at a time, a report has the very bytes it has when kept whole,

@@ -18,10 +18,10 @@ namespace fs = std::filesystem;
 // Records, with each message, whether the report was already on disk when it came up.
 class PiattaformaRelazione : public PiattaformaRegistrata {
  public:
-  Risposta Messaggio(const std::string& testo, const std::string& titolo, Icona icona,
-                     Pulsanti pulsanti) override {
+  Risposta MostraMessaggio(const std::string& testo, const std::string& titolo, Icona icona,
+                           Pulsanti pulsanti) override {
     fileAlMessaggio.push_back(fs::exists(relazione));
-    return PiattaformaRegistrata::Messaggio(testo, titolo, icona, pulsanti);
+    return PiattaformaRegistrata::MostraMessaggio(testo, titolo, icona, pulsanti);
   }
   fs::path relazione;
   std::vector<bool> fileAlMessaggio;

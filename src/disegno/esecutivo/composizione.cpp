@@ -4,6 +4,7 @@
 #include "disegno/esecutivo/composizione.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -14,6 +15,7 @@
 #include "disegno/esecutivo/tavola.h"
 #include "librerie/numeri.h"
 #include "nodo/sessione.h"
+#include "piattaforma/errori.h"
 #include "piattaforma/file_testo.h"
 #include "verifica/comuni.h"
 #include "verifica/geometria.h"
@@ -136,10 +138,36 @@ std::string TitoloEsecutivo(const Sessione& s) {
   return titolo;
 }
 
+// No writer may put an endless or undefined figure into a file: a node whose sizes overflow
+// stops the drawing here, before any file is touched.
+void ControllaFiniti(const ArchivioDisegno& a) {
+  if (!a.HaTabelle()) return;
+  const TabelleDisegno& t = a.Tabelle();
+  for (std::int32_t i = 0; i < a.NumCoord; ++i) {
+    if (std::isfinite(t.CoordX[i]) && std::isfinite(t.CoordY[i])) continue;
+    throw ErroreFatale("Disegno non eseguito: la coordinata " + std::to_string(i) +
+                       " del disegno non è un numero finito (" + TestoNumero(t.CoordX[i]) + ", " +
+                       TestoNumero(t.CoordY[i]) +
+                       "): controllare le dimensioni del fazzoletto, degli angoli e delle aste");
+  }
+  // The number texts write an endless figure as the family did, "1.#INF": a text holding it is
+  // a figure of the sheet that overflowed.
+  for (std::int32_t i = 0; i < a.NumTesti; ++i) {
+    if (t.TestoStringa[i].find("#INF") == std::string::npos) continue;
+    throw ErroreFatale("Disegno non eseguito: il testo \"" + t.TestoStringa[i] +
+                       "\" del disegno non è un numero finito: controllare i dati del nodo");
+  }
+}
+
 void ComponiEsecutivo(Tavola& t, StatoEsecutivo& stato) {
   Sessione& s = t.S();
   stato = StatoEsecutivo{};
   GeometriaNodo(s);
+  if (!GeometriaFinita(s.nodo, s.geometria)) {
+    throw ErroreFatale(
+        "Disegno non eseguito: geometria del nodo non calcolabile (valori fuori scala): "
+        "controllare le dimensioni del fazzoletto, degli angoli e delle aste");
+  }
   stato.MargineTabella = 4 * s.opzioni[10];
   Origine(s, 0, 0);
   VistaNodo(t, stato);
@@ -147,6 +175,7 @@ void ComponiEsecutivo(Tavola& t, StatoEsecutivo& stato) {
   Dettagli(t, stato);
   if (s.opzioni[18] == 1) Distinta(t, stato);
   Titolo(t);
+  ControllaFiniti(s.disegno);
 }
 
 void ComponiEsecutivo(Tavola& t) {

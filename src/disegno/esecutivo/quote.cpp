@@ -10,6 +10,7 @@
 #include "disegno/esecutivo/tavola.h"
 #include "librerie/numeri.h"
 #include "nodo/sessione.h"
+#include "piattaforma/errori.h"
 #include "piattaforma/file_testo.h"
 
 namespace qf17 {
@@ -74,6 +75,12 @@ std::int16_t ColoreOpzione(const Sessione& s, int indice) {
 }
 
 std::string TestoMisura(double misura) {
+  // The square of a length beyond 1e154 overflows: such a sheet cannot be dimensioned.
+  if (!std::isfinite(misura)) {
+    throw ErroreFatale(
+        "Disegno non eseguito: una quota misura un valore non finito: controllare le dimensioni "
+        "del fazzoletto, degli angoli e delle aste");
+  }
   return TestoNumero(std::floor(10 * misura + 0.5) / 10);
 }
 

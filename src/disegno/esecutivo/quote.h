@@ -26,7 +26,7 @@ void Quota(Sessione& s, const std::string& testo, double x1, double x2, double y
 std::int16_t ColoreOpzione(const Sessione& s, int indice);
 
 // The text of a measure: rounded to one decimal, halves up, in the shortest form ("1245.3",
-// "100").
+// "100"). A measure that is not finite is an ErroreFatale: no sheet is written with it.
 std::string TestoMisura(double misura);
 
 // The text of a member's angle (radians) at its arc: degrees, absolute, cut to two decimals.

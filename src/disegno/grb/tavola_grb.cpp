@@ -100,10 +100,11 @@ void TavolaGrb::Quota(const std::string& testo, double x1, double x2, double y1,
   const Segmento q = Ordina(x1, x2, y1, y2);
   EstensioniIndicatori(S(), q);
   std::string scritta = testo;
-  // A detail drawn larger reads true millimetres only if the measure is written here.
-  if (scritta.empty() && std::abs(fattore) != 1) {
-    scritta = TestoMisura(std::abs(fattore) * q.lunghezza);
-  }
+  // A detail drawn larger reads true millimetres only if the measure is written here. The
+  // measure is formed for every dimension, so that one the viewer could not measure stops the
+  // sheet here as it stops the DIS sheet.
+  const std::string misura = TestoMisura(std::abs(fattore) * q.lunghezza);
+  if (scritta.empty() && std::abs(fattore) != 1) scritta = misura;
   QuotaGRB(S(), scritta, q.x1, q.y1, q.x2, q.y2, kScostamentoQuoteGrb, Stile(ClasseTesto::Quote));
 }
 

@@ -1,6 +1,8 @@
 #include "verifica/relazioni/relazione_comune.h"
 
 #include <filesystem>
+#include <string>
+#include <string_view>
 
 #include "librerie/formatta.h"
 #include "librerie/numeri.h"
@@ -33,9 +35,34 @@ void PreparaVerdetti(VerdettiRelazione& verdetti, int nSet) {
   verdetti.SaldaturaVerificabile.assign(nSet + 1, true);
 }
 
+namespace {
+
+// A message on one line: each line break of the box becomes a blank.
+std::string SuUnaRiga(std::string_view testo) {
+  std::string riga;
+  for (std::size_t i = 0; i < testo.size(); ++i) {
+    if (testo[i] == '\r' && i + 1 < testo.size() && testo[i + 1] == '\n') continue;
+    riga.push_back(testo[i] == '\r' || testo[i] == '\n' ? ' ' : testo[i]);
+  }
+  return riga;
+}
+
+}  // namespace
+
+void ScriviAvvertenze(const RaccoltaMessaggi& raccolta, TestoRelazione& r) {
+  if (raccolta.Voci().empty()) return;
+  r << "AVVERTENZE" << kFine;
+  for (const auto& voce : raccolta.Voci()) {
+    r << kTab << SuUnaRiga(voce.testo) << " (" << TestoNumero(static_cast<long long>(voce.volte))
+      << (voce.volte == 1 ? " volta)" : " volte)") << kFine;
+  }
+  r << kFine;
+}
+
 // The text is UTF-8, the encoding of this platform's editors, with CR LF line ends.
 bool ConcludiRelazione(Sessione& sessione, FileSicuro& file, TestoRelazione& r, bool nodoKo) {
   Piattaforma& p = sessione.piattaforma;
+  if (p.Raccolta() != nullptr) ScriviAvvertenze(*p.Raccolta(), r);
   if (nodoKo) {
     p.Messaggio("ATTENZIONE: nodo non verificato!", "QF17 - NODO DI TRAVATURA RETICOLARE",
                 Icona::Attenzione, Pulsanti::Ok);

@@ -10,6 +10,7 @@ struct Sessione;
 struct Nodo;
 class Piattaforma;
 class FileSicuro;
+class RaccoltaMessaggi;
 struct VerdettiRelazione;
 
 // The frame both reports share.
@@ -23,7 +24,10 @@ double NumeroCasellaAngolo(double radianti, Piattaforma& piattaforma);
 // Verdicts for `nSet` load sets (index 0 unused), every set verified until its checks say
 // otherwise.
 void PreparaVerdetti(VerdettiRelazione& verdetti, int nSet);
-// The end of a report: the closing message when a set has failed, which comes up before the
+// The closing section "AVVERTENZE": every message the run gave, each text once on its line with
+// how many times it came. Nothing at all when the run gave none.
+void ScriviAvvertenze(const RaccoltaMessaggi& raccolta, TestoRelazione& r);
+// The end of a report: the messages of the run (ScriviAvvertenze), then the closing message when a set has failed, which comes up before the
 // file is on disk, as the user has always seen it; then the file made whole under its name, and
 // the viewer ("notepad.exe", not waited for). False, with a message, when the file cannot be
 // written; the viewer is then not started.
