@@ -104,6 +104,12 @@ class RelazioneSLUPiccola : public ::testing::Test {
     r.OkDiff(1, 2) = r.OkProf(2, 2) = 1;
   }
 
+  static constexpr const char* kSottoFallita = "     500.4|   18812.5| NO|\r\n";
+  void FallisceSoloSottoDelSet1(bool fallito) {
+    Set2Verificato();
+    s.Risultati().OkSotto[1] = fallito ? 0 : 1;
+  }
+
   bool Esegui() { return RelazioneSLU(s, verdetti); }
   std::string Relazione() const { return LeggiTutto(file); }
 

@@ -181,6 +181,8 @@ class RelazioneTAPiccola : public ::testing::Test {
     return t.substr(0, t.find("\r\nCombinazione di sollecitazioni agenti "));
   }
 
+  // The failure line of the section under the chord in set 1.
+  static constexpr const char* kSottoFallita = "fazzoletto:  500\r\n\tTensione NON VERIFICATA\r\n";
   void FallisceSoloSottoDelSet1(bool fallito) {
     RisultatiVerifica& r = s.Risultati();
     r.OkDiff(1, 2) = r.OkRif(2, 2) = r.OkTau(1, 2) = 1;
