@@ -19,18 +19,7 @@ constexpr std::int16_t SLU = 1;
 
 Acciaio Riga(const char* nome, double SAmm, double SAmm40, double fy, double ft, double fy40,
              double ft40) {
-  Acciaio a;
-  a.Nome = nome;
-  a.Norma = "UNI EN 10025-2";
-  a.SAmm = SAmm;
-  a.SAmm40 = SAmm40;
-  a.fy = fy;
-  a.ft = ft;
-  a.fy40 = fy40;
-  a.ft40 = ft40;
-  a.gM = 1.05;
-  a.gMT = 1.25;
-  return a;
+  return {nome, "UNI EN 10025-2", SAmm, SAmm40, fy, fy40, ft, ft40, 1.05, 1.25};
 }
 
 // The installation's open-section steels; S 460 has no allowable stress.

@@ -11,15 +11,8 @@ namespace {
 
 Profilo Riga(const std::string& nome, double h, double b, double a, double e) {
   Profilo p;
-  p.Nome = nome;
-  p.h = h;
-  p.b = b;
-  p.a = a;
-  p.e = e;
-  p.r1 = 99;
-  p.r2 = 98;
-  p.dBarY = 20.1;
-  p.Tipo = 7;
+  p.Nome = nome, p.h = h, p.b = b, p.a = a, p.e = e;
+  p.r1 = 99, p.r2 = 98, p.dBarY = 20.1, p.Tipo = 7;
   return p;
 }
 

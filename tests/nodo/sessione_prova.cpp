@@ -8,42 +8,17 @@ namespace {
 Profilo Sezione(const std::string& nome, std::int16_t tipo, double h, double b, double a, double e,
                 double area) {
   Profilo p;
-  p.Nome = nome;
-  p.Tipo = tipo;
-  p.h = h;
-  p.b = b;
-  p.a = a;
-  p.e = e;
-  p.Area = area;
+  p.Nome = nome, p.Tipo = tipo, p.h = h, p.b = b, p.a = a, p.e = e, p.Area = area;
   return p;
 }
 
 Acciaio Steel(const std::string& nome, double sAmm, double sAmm40, double fy, double fy40,
               double ft, double ft40) {
-  Acciaio a;
-  a.Nome = nome;
-  a.Norma = "UNI EN 10025-2";
-  a.SAmm = sAmm;
-  a.SAmm40 = sAmm40;
-  a.fy = fy;
-  a.fy40 = fy40;
-  a.ft = ft;
-  a.ft40 = ft40;
-  a.gM = 1.05;
-  a.gMT = 1.25;
-  return a;
+  return {nome, "UNI EN 10025-2", sAmm, sAmm40, fy, fy40, ft, ft40, 1.05, 1.25};
 }
 
 Vite Classe(const std::string& nome, double sAmm, double tauAmm, double fy, double ft) {
-  Vite v;
-  v.Nome = nome;
-  v.SAmmViti = sAmm;
-  v.TauAmmViti = tauAmm;
-  v.fyViti = fy;
-  v.ftViti = ft;
-  v.fdVit = ft * 0.7;
-  v.gMViti = 1.25;
-  return v;
+  return {nome, sAmm, tauAmm, fy, ft, ft * 0.7, 1.25};
 }
 
 }  // namespace

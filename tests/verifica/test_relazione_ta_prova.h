@@ -46,12 +46,7 @@ inline void ControllaChiusuraNonVerificato(const PiattaformaRelazione& p, const 
 inline Profilo ProfiloRelazione(const std::string& nome, std::int16_t tipo, double h, double b,
                                 double a, double e) {
   Profilo p;
-  p.Nome = nome;
-  p.Tipo = tipo;
-  p.h = h;
-  p.b = b;
-  p.a = a;
-  p.e = e;
+  p.Nome = nome, p.Tipo = tipo, p.h = h, p.b = b, p.a = a, p.e = e;
   return p;
 }
 
