@@ -22,11 +22,8 @@ class DisegnoAMano : public ::testing::Test {
     // A font of one glyph, "A": one stroke from the baseline's left end to the top right corner
     // of the cell. "&" is absent and only takes its cell.
     s.font.FontNumPunti.fill(-1);
-    s.font.FontNumPunti['A'] = 2;
-    s.font.FontX['A'][0] = 0;
-    s.font.FontY['A'][0] = 30;
-    s.font.FontX['A'][1] = 99;
-    s.font.FontY['A'][1] = 99;
+    s.font.FontNumPunti['A'] = 2, s.font.FontX['A'][0] = 0, s.font.FontY['A'][0] = 30;
+    s.font.FontX['A'][1] = 99, s.font.FontY['A'][1] = 99;
   }
 
   std::int32_t Punto(double x, double y) {
@@ -36,29 +33,19 @@ class DisegnoAMano : public ::testing::Test {
   }
   void Linea(std::int32_t p1, std::int32_t p2, std::int16_t colore, std::int16_t tipo) {
     const std::int32_t i = a.NumLinee++;
-    t.LinP1[i] = p1;
-    t.LinP2[i] = p2;
-    t.LinColore[i] = colore;
-    t.LinTipo[i] = tipo;
+    t.LinP1[i] = p1, t.LinP2[i] = p2, t.LinColore[i] = colore, t.LinTipo[i] = tipo;
   }
   void Arco(std::int32_t centro, std::int32_t inizio, std::int32_t fine, std::int16_t colore,
             std::int16_t tipo = 0) {
     const std::int32_t i = a.NumArchi++;
     t.ArcCentro[i] = t.ArcCentro2[i] = centro;
-    t.ArcInizio[i] = inizio;
-    t.ArcFine[i] = fine;
-    t.ArcColore[i] = colore;
-    t.ArcTipo[i] = tipo;
+    t.ArcInizio[i] = inizio, t.ArcFine[i] = fine, t.ArcColore[i] = colore, t.ArcTipo[i] = tipo;
   }
   void Testo(std::int32_t punto, std::int16_t angolo, std::int16_t larghezza, std::int16_t altezza,
              std::int16_t colore, const std::string& testo) {
     const std::int32_t i = a.NumTesti++;
-    t.TestoPunto[i] = punto;
-    t.TestoAngolo[i] = angolo;
-    t.TestoLarghezza[i] = larghezza;
-    t.TestoAltezza[i] = altezza;
-    t.TestoColore[i] = colore;
-    t.TestoStringa[i] = testo;
+    t.TestoPunto[i] = punto, t.TestoAngolo[i] = angolo, t.TestoLarghezza[i] = larghezza;
+    t.TestoAltezza[i] = altezza, t.TestoColore[i] = colore, t.TestoStringa[i] = testo;
   }
 
   PiattaformaRegistrata p;

@@ -38,10 +38,7 @@ class QuoteNodoTest : public ::testing::Test, public prova::SessioneQuote {
  protected:
   void SetUp() override {
     Nodo& n = s.nodo;
-    n.Corrente.Nome = "UPN100";
-    n.Corrente.h = 100;
-    n.Corrente.b = 50;
-    n.Corrente.dBarX = 50;
+    n.Corrente.Nome = "UPN100", n.Corrente.h = 100, n.Corrente.b = 50, n.Corrente.dBarX = 50;
     n.Corrente.Tipo = 0;
     for (int i = 0; i <= 6; ++i) n.Ast_flag[i] = 0;
     n.Fz_a = 100, n.Fz_b = 200, n.Fz_c = 200, n.Fz_d = 100;
@@ -52,16 +49,9 @@ class QuoteNodoTest : public ::testing::Test, public prova::SessioneQuote {
   }
   void Asta(int i, double gradi, AstModo modo, double b) {
     Nodo& n = s.nodo;
-    n.Aste[i].Nome = "L60";
-    n.Aste[i].h = 60;
-    n.Aste[i].b = b;
-    n.Aste[i].dBarX = 15;
-    n.Aste[i].Tipo = 1;
-    n.Ast_flag[i] = 1;
-    n.Ast_modo[i] = static_cast<std::int16_t>(modo);
-    n.Ast_lato[i] = 0;
-    n.Ast_teta[i] = GradiInRadianti(gradi);
-    n.Ast_coeff[i] = 1;
+    n.Aste[i].Nome = "L60", n.Aste[i].h = 60, n.Aste[i].b = b, n.Aste[i].dBarX = 15;
+    n.Aste[i].Tipo = 1, n.Ast_flag[i] = 1, n.Ast_modo[i] = static_cast<std::int16_t>(modo);
+    n.Ast_lato[i] = 0, n.Ast_teta[i] = GradiInRadianti(gradi), n.Ast_coeff[i] = 1;
     n.Ast_ins[i] = 100;
   }
 

@@ -205,10 +205,8 @@ TEST_F(SalvaDisTest, LineeCoperteTolteSoloSeColorateENonContinue) {
 TEST_F(SalvaDisTest, ColoreZeroRestaNegativiVanno) {
   auto linea = [this](double x1, double x2, std::int16_t colore, std::int16_t tipo) {
     const std::int32_t i = a.NumLinee++;
-    t.LinP1[i] = AggiungiCoordinata(a, p, x1, 0);
-    t.LinP2[i] = AggiungiCoordinata(a, p, x2, 0);
-    t.LinColore[i] = colore;
-    t.LinTipo[i] = tipo;
+    t.LinP1[i] = AggiungiCoordinata(a, p, x1, 0), t.LinP2[i] = AggiungiCoordinata(a, p, x2, 0);
+    t.LinColore[i] = colore, t.LinTipo[i] = tipo;
   };
   linea(0, 10, 1, 0);
   linea(2, 8, 0, 4);     // colour 0 on a continuous line: stays
@@ -290,10 +288,7 @@ TEST_F(SalvaDisTest, CatenaDiPuntiVicini) {
   const std::int32_t q = coordinata(50);
   for (std::int32_t estremo : {p0, p1, p2}) {
     const std::int32_t i = a.NumLinee++;
-    t.LinP1[i] = estremo;
-    t.LinP2[i] = q;
-    t.LinColore[i] = 1;
-    t.LinTipo[i] = 0;
+    t.LinP1[i] = estremo, t.LinP2[i] = q, t.LinColore[i] = 1, t.LinTipo[i] = 0;
   }
   PulisciDisegno(a);
   ASSERT_EQ(a.NumCoord, 3);

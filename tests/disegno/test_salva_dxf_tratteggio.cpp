@@ -24,20 +24,10 @@ namespace fs = std::filesystem;
 // 100, gap 20, dot 10, gap 20; type 2: 5 and 5 tenths.
 TipiLinea Tipi() {
   TipiLinea t;
-  t.TipoNumTratti[4] = 2;
-  t.TipoTratti(4, 0) = 60;
-  t.TipoTratti(4, 1) = 30;
-  t.TipoLunghezza[4] = 90;
-  t.TipoNumTratti[1] = 4;
-  t.TipoTratti(1, 0) = 100;
-  t.TipoTratti(1, 1) = 20;
-  t.TipoTratti(1, 2) = 10;
-  t.TipoTratti(1, 3) = 20;
-  t.TipoLunghezza[1] = 150;
-  t.TipoNumTratti[2] = 2;
-  t.TipoTratti(2, 0) = 5;
-  t.TipoTratti(2, 1) = 5;
-  t.TipoLunghezza[2] = 10;
+  t.TipoNumTratti[4] = 2, t.TipoTratti(4, 0) = 60, t.TipoTratti(4, 1) = 30, t.TipoLunghezza[4] = 90;
+  t.TipoNumTratti[1] = 4, t.TipoTratti(1, 0) = 100, t.TipoTratti(1, 1) = 20;
+  t.TipoTratti(1, 2) = 10, t.TipoTratti(1, 3) = 20, t.TipoLunghezza[1] = 150;
+  t.TipoNumTratti[2] = 2, t.TipoTratti(2, 0) = 5, t.TipoTratti(2, 1) = 5, t.TipoLunghezza[2] = 10;
   return t;
 }
 

@@ -26,8 +26,7 @@ Acciaio Riga(const char* nome, double SAmm, double SAmm40, double fy, double ft,
 struct Banco {
   Banco() {
     Materiali& m = s.materiali;
-    m.NumAcciai = 4;
-    m.Acciai[1] = Riga("S 235 (FE 360)", 1600, 1400, 2350, 3600, 2150, 3600);
+    m.NumAcciai = 4, m.Acciai[1] = Riga("S 235 (FE 360)", 1600, 1400, 2350, 3600, 2150, 3600);
     m.Acciai[2] = Riga("S 275 (FE 430)", 1900, 1700, 2750, 4300, 2550, 4100);
     m.Acciai[3] = Riga("S 355 (FE 510)", 2400, 2100, 3550, 5100, 3350, 4700);
     m.Acciai[4] = Riga("S 460 (NTC08)", 0, 0, 4600, 5400, 4300, 5400);

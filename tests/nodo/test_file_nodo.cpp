@@ -23,14 +23,10 @@ void NodoPiccolo(Nodo& n) {
   const double teta[] = {0, 45, 90, 127.5}, coeff[] = {0, 1, 0.8, 1}, ins[] = {0, 150, 120, 160};
   const double sld1[] = {0, 150, 0, 12.25}, sld2[] = {0, 150, 0, 0};
   for (int i = 1; i <= 3; ++i) {
-    n.Aste[i].Nome = nomi[i];
-    n.Ast_flag[i] = static_cast<std::int16_t>(flag[i]);
+    n.Aste[i].Nome = nomi[i], n.Ast_flag[i] = static_cast<std::int16_t>(flag[i]);
     n.Ast_modo[i] = static_cast<std::int16_t>(modo[i]);
-    n.Ast_lato[i] = static_cast<std::int16_t>(lato[i]);
-    n.Ast_teta[i] = GradiInRadianti(teta[i]);
-    n.Ast_coeff[i] = coeff[i];
-    n.Ast_ins[i] = ins[i];
-    n.Saldature(i, 1).Sld_L = sld1[i];
+    n.Ast_lato[i] = static_cast<std::int16_t>(lato[i]), n.Ast_teta[i] = GradiInRadianti(teta[i]);
+    n.Ast_coeff[i] = coeff[i], n.Ast_ins[i] = ins[i], n.Saldature(i, 1).Sld_L = sld1[i];
     n.Saldature(i, 2).Sld_L = sld2[i];
   }
   n.Lato_Sald = 6;
@@ -46,18 +42,12 @@ void NodoPiccolo(Nodo& n) {
   n.xBull(3, 1) = 40.5, n.yBull(3, 1) = -3, n.FiBull(3, 1) = 12;
   n.Fz_a = 150, n.Fz_b = 250, n.Fz_c = 250, n.Fz_d = 150;
   n.Fz_e = 100, n.Fz_f = 150, n.Fz_g = 100, n.Fz_h = 150, n.Fz_s = 12;
-  n.acciaio.Nome = "S 275 (FE 430)";
-  n.vite.Nome = "8.8";
-  n.Esposizione = 1;
-  n.nSollAg = 2;
+  n.acciaio.Nome = "S 275 (FE 430)", n.vite.Nome = "8.8", n.Esposizione = 1, n.nSollAg = 2;
   n.SforzoNormale(1, 1) = 12500, n.SforzoNormale(2, 1) = -8000.5, n.SforzoNormale(3, 1) = 0;
   n.CasoCarico[1] = 0;
   n.NomeSa[1] = "Neve più vento";
   n.SforzoNormale(1, 2) = -3000, n.SforzoNormale(2, 2) = 123456789012.0;
-  n.SforzoNormale(3, 2) = 2.0 / 3.0;
-  n.CasoCarico[2] = 1;
-  n.NomeSa[2] = "";
-  n.NumNodi = 2;
+  n.SforzoNormale(3, 2) = 2.0 / 3.0, n.CasoCarico[2] = 1, n.NomeSa[2] = "", n.NumNodi = 2;
   n.NomeNodi[1] = 101, n.NomeNodi[2] = 102;
   n.TipoVer = 1;
 }

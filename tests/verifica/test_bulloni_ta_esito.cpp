@@ -34,9 +34,7 @@ TEST(CoefficienteRifollamento, RigheDellaTabella) {
 // Steel 1600 up to 40 mm, 1400 above; bolt shear 1100. One load set unless a case adds one.
 struct ProvaEsito : ProvaBulloniTA {
   ProvaEsito() {
-    nodo.acciaio.SAmm = 1600;
-    nodo.acciaio.SAmm40 = 1400;
-    nodo.vite.TauAmmViti = 1100;
+    nodo.acciaio.SAmm = 1600, nodo.acciaio.SAmm40 = 1400, nodo.vite.TauAmmViti = 1100;
     nodo.nSollAg = 1;
   }
 };
