@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -15,19 +13,7 @@ using qf17::prova::LeggiTutto;
 
 using qf17::prova::Esito;
 
-// Runs the staged program of the sample installation with the given arguments.
-class RigaDiComando : public ::testing::Test {
- protected:
-  Esito Esegui(const std::string& argomenti, const std::string& programma = QF17_PROGRAMMA_STAGED) {
-    return qf17::prova::EseguiProgramma(cartella_, programma, argomenti);
-  }
-  std::string Esempio(const std::string& nome) const {
-    return std::string(QF17_INSTALLAZIONE) + "/lavori/esempi/" + nome;
-  }
-
-  qf17::prova::CartellaProva spazio_;
-  const fs::path cartella_ = spazio_.percorso();
-};
+using RigaDiComando = qf17::prova::RigaDiComandoProva;
 
 TEST_F(RigaDiComando, NodoStampaIlNodoCercandoloNellaCartellaDelLavoro) {
   Esito e = Esegui("nodo ANGUPN.qf7");
@@ -40,7 +26,8 @@ TEST_F(RigaDiComando, NodoStampaIlNodoCercandoloNellaCartellaDelLavoro) {
 
 TEST_F(RigaDiComando, ConvertiUnFileVecchioNelFormatoAChiavi) {
   const fs::path nuovo = cartella_ / "nuovo.qf7";
-  Esito e = Esegui("converti '" + Esempio("VECCHIO2.qf7") + "' -o '" + nuovo.string() + "'");
+  Esito e =
+      Esegui("converti '" + Esempio("VECCHIO2.qf7").string() + "' -o '" + nuovo.string() + "'");
   ASSERT_EQ(e.stato, 0) << e.errori;
   const std::string testo = LeggiTutto(nuovo);
   EXPECT_EQ(testo.rfind("KORVINWIN [QuestoProgramma=QF17 - NODO DI TRAVATURA RETICOLARE] "

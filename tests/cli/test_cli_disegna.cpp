@@ -25,11 +25,9 @@ std::size_t InizioRiga(const std::string& testo, int n) {
   return inizio;
 }
 
-class RigaDiComandoDisegna : public ::testing::Test {
+class RigaDiComandoDisegna : public qf17::prova::RigaDiComandoProva {
  protected:
-  RigaDiComandoDisegna() {
-    fs::copy_file(fs::path(QF17_INSTALLAZIONE) / "lavori" / "esempi" / "ANGUPN.qf7", copia_);
-  }
+  RigaDiComandoDisegna() { fs::copy_file(Esempio("ANGUPN.qf7"), copia_); }
   ~RigaDiComandoDisegna() override {
     std::error_code ec;
     fs::remove(disegnoNelLavoro_, ec);
@@ -37,18 +35,13 @@ class RigaDiComandoDisegna : public ::testing::Test {
   }
 
   Esito Esegui(const std::string& argomenti) {
-    return qf17::prova::EseguiProgramma(cartella_, QF17_PROGRAMMA_STAGED,
-                                        "disegna '" + copia_.string() + "' " + argomenti);
+    return RigaDiComandoProva::Esegui("disegna '" + copia_.string() + "' " + argomenti);
   }
 
-  qf17::prova::CartellaProva spazio_;
-  const fs::path cartella_ = spazio_.percorso();
   const std::string nome_ = "ANGUPN_dis_" + std::to_string(::getpid());
   const fs::path copia_ = cartella_ / (nome_ + ".qf7");
-  const fs::path disegnoNelLavoro_ =
-      fs::path(QF17_INSTALLAZIONE) / "lavori" / "esempi" / (nome_ + ".dis");
-  const fs::path grbNelLavoro_ =
-      fs::path(QF17_INSTALLAZIONE) / "lavori" / "esempi" / (nome_ + ".grb");
+  const fs::path disegnoNelLavoro_ = Esempio(nome_ + ".dis");
+  const fs::path grbNelLavoro_ = Esempio(nome_ + ".grb");
 };
 
 // Without -o the drawing goes to the job folder under the node's name; its path is printed.

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -19,14 +17,11 @@ using qf17::prova::LeggiTutto;
 using qf17::prova::Esito;
 
 // Runs the staged program on copies of the sample nodes in a folder of its own.
-class RigaDiComandoSoll : public ::testing::Test {
+class RigaDiComandoSoll : public qf17::prova::RigaDiComandoProva {
  protected:
-  Esito Esegui(const std::string& argomenti) {
-    return qf17::prova::EseguiProgramma(cartella_, QF17_PROGRAMMA_STAGED, argomenti);
-  }
   fs::path CopiaEsempio(const std::string& nome) {
     const fs::path copia = cartella_ / nome;
-    fs::copy_file(std::string(QF17_INSTALLAZIONE) + "/lavori/esempi/" + nome, copia);
+    fs::copy_file(Esempio(nome), copia);
     return copia;
   }
   qf17::Nodo Leggi(const fs::path& file) {
@@ -35,9 +30,6 @@ class RigaDiComandoSoll : public ::testing::Test {
     EXPECT_TRUE(qf17::LeggiNodo(n, file, p)) << file;
     return n;
   }
-
-  qf17::prova::CartellaProva spazio_;
-  const fs::path cartella_ = spazio_.percorso();
 };
 
 TEST_F(RigaDiComandoSoll, MaxMinRiscriveIlFileNodo) {

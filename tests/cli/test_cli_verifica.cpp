@@ -4,10 +4,8 @@
 // samples' reports are never touched, and every report written is removed at the end.
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -24,7 +22,7 @@ using qf17::prova::LeggiTutto;
 
 using qf17::prova::Esito;
 
-class RigaDiComandoVerifica : public ::testing::Test {
+class RigaDiComandoVerifica : public qf17::prova::RigaDiComandoProva {
  protected:
   ~RigaDiComandoVerifica() override {
     std::error_code ec;
@@ -34,28 +32,21 @@ class RigaDiComandoVerifica : public ::testing::Test {
     }
   }
 
-  Esito Esegui(const std::string& argomenti) {
-    return qf17::prova::EseguiProgramma(cartella_, QF17_PROGRAMMA_STAGED, argomenti);
-  }
-
   // A copy of a sample under a name of this process; returns the node's name.
   std::string Copia(const std::string& esempio, const std::string& testo = {}) {
     const std::string nome = esempio + "_cli_" + std::to_string(::getpid());
     const fs::path copia = cartella_ / (nome + ".qf7");
     fs::remove(copia);
     if (testo.empty()) {
-      fs::copy_file(Esempio(esempio), copia);
+      fs::copy_file(Esempio(esempio + ".qf7"), copia);
     } else {
       spazio_.Scrivi(copia.filename(), testo);
     }
     relazioni_.push_back(Relazione(nome));
     return nome;
   }
-  static fs::path Esempio(const std::string& esempio) {
-    return fs::path(QF17_INSTALLAZIONE) / "lavori" / "esempi" / (esempio + ".qf7");
-  }
   static fs::path Relazione(const std::string& nome) {
-    return fs::path(QF17_INSTALLAZIONE) / "lavori" / "esempi" / ("RelTA_QF17_" + nome + ".txt");
+    return Esempio("RelTA_QF17_" + nome + ".txt");
   }
   std::string Percorso(const std::string& nome) const {
     return "'" + (cartella_ / (nome + ".qf7")).string() + "'";
@@ -65,8 +56,6 @@ class RigaDiComandoVerifica : public ::testing::Test {
                       ("relazione_ta_" + esempio + ".txt"));
   }
 
-  qf17::prova::CartellaProva spazio_;
-  const fs::path cartella_ = spazio_.percorso();
   std::vector<fs::path> relazioni_;
 };
 
@@ -98,8 +87,7 @@ TEST_F(RigaDiComandoVerifica, NodoNonVerificatoEsito1ConIlMessaggioDiChiusura) {
 // overrides it in either case.
 TEST_F(RigaDiComandoVerifica, MetodoDelNodoOppureDellaRiga) {
   const std::string nodo = Copia("MOLTESOLL");
-  const fs::path slu =
-      fs::path(QF17_INSTALLAZIONE) / "lavori" / "esempi" / ("RelSLU_QF17_" + nodo + ".txt");
+  const fs::path slu = Esempio("RelSLU_QF17_" + nodo + ".txt");
   relazioni_.push_back(slu);
   for (const char* opzione : {"", " --metodo SLU", " --metodo slu"}) {
     SCOPED_TRACE(opzione);
@@ -127,8 +115,7 @@ TEST_F(RigaDiComandoVerifica, MetodoDelNodoOppureDellaRiga) {
 // with --annulla the last group's Cancel ends it silently, with no report.
 TEST_F(RigaDiComandoVerifica, AnnullaSugliAvvisiDiDisposizioneFineSilenziosa) {
   const std::string nodo = Copia("DOPPIO");
-  const fs::path slu =
-      fs::path(QF17_INSTALLAZIONE) / "lavori" / "esempi" / ("RelSLU_QF17_" + nodo + ".txt");
+  const fs::path slu = Esempio("RelSLU_QF17_" + nodo + ".txt");
   relazioni_.push_back(slu);
   const std::string avviso =
       "ATTENZIONE!: L'interasse dei bulloni risulta difforme dalle prescrizioni delle NTC 2008 "
@@ -149,7 +136,7 @@ TEST_F(RigaDiComandoVerifica, AnnullaSugliAvvisiDiDisposizioneFineSilenziosa) {
 
 TEST_F(RigaDiComandoVerifica, AstaParallelaAlCorrenteEsito2ERelazioneIntatta) {
   // Member B turned to the chord's angle (0 degrees): the key keeps its 40-column layout.
-  std::string testo = LeggiTutto(Esempio("ANGUPN"));
+  std::string testo = LeggiTutto(Esempio("ANGUPN.qf7"));
   const std::string b90 = "\r\n90                                      [Ast_teta 2]\r\n";
   const std::string b0 = "\r\n0                                       [Ast_teta 2]\r\n";
   const std::string corrente0 = "\r\n0                                       [Cor_teta]\r\n";

@@ -15,12 +15,13 @@ namespace qf17::prova {
 
 // What the store holds, read back through its coordinate table.
 struct LineaLetta {
-  Punto p1, p2;
-  std::int16_t colore = 0;
+  Punto a, b;
+  std::int16_t colore = 0, tipo = 0;
 };
 struct ArcoLetto {
   Punto centro, inizio, fine;
   std::int16_t colore = 0;
+  double Diametro() const { return 2 * Modulo(inizio - centro); }
 };
 struct TestoLetto {
   Punto punto;
@@ -36,7 +37,8 @@ inline std::vector<LineaLetta> Linee(const ArchivioDisegno& a) {
   std::vector<LineaLetta> r;
   const TabelleDisegno& t = a.Tabelle();
   for (int i = 0; i < a.NumLinee; ++i) {
-    r.push_back({Coordinata(a, t.LinP1[i]), Coordinata(a, t.LinP2[i]), t.LinColore[i]});
+    r.push_back(
+        {Coordinata(a, t.LinP1[i]), Coordinata(a, t.LinP2[i]), t.LinColore[i], t.LinTipo[i]});
   }
   return r;
 }
@@ -49,6 +51,13 @@ inline std::vector<ArcoLetto> Archi(const ArchivioDisegno& a) {
                  Coordinata(a, t.ArcFine[i]), t.ArcColore[i]});
   }
   return r;
+}
+
+inline std::vector<LineaLetta> Linee(const Sessione& s) {
+  return Linee(s.disegno);
+}
+inline std::vector<ArcoLetto> Archi(const Sessione& s) {
+  return Archi(s.disegno);
 }
 
 inline std::vector<TestoLetto> Testi(const ArchivioDisegno& a) {

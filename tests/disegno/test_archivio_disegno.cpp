@@ -36,17 +36,6 @@ TEST(ArchivioDisegnoSessione, UnaSessioneCheNonDisegnaNonFaLeTabelle) {
   EXPECT_TRUE(s.disegno.HaTabelle());
 }
 
-TEST_F(ArchivioDisegnoTest, AzzeraEstensioniAiValoriEstremi) {
-  EXPECT_EQ(a.EstMaxX, -10000000000.0);
-  EXPECT_EQ(a.EstMaxY, -10000000000.0);
-  EXPECT_EQ(a.RuotMaxX, -10000000000.0);
-  EXPECT_EQ(a.RuotMaxY, -10000000000.0);
-  EXPECT_EQ(a.EstMinX, 10000000000.0);
-  EXPECT_EQ(a.EstMinY, 10000000000.0);
-  EXPECT_EQ(a.RuotMinX, 10000000000.0);
-  EXPECT_EQ(a.RuotMinY, 10000000000.0);
-}
-
 // Coordinates 0.00009 apart on both axes share an index when the earlier one is among the 31
 // newest; the tolerance itself is already too far.
 TEST_F(ArchivioDisegnoTest, RicercaSulleUltime31Coordinate) {

@@ -121,9 +121,7 @@ Scatola ScatolaTesto(const ArchivioDisegno& a, int i) {
   for (const Punto p : {Punto{0, 0}, Punto{l, 0}, Punto{0, h}, Punto{l, h}}) {
     const double px = x + p.x * std::cos(an) - p.y * std::sin(an);
     const double py = y + p.x * std::sin(an) + p.y * std::cos(an);
-    b.minX = std::min(b.minX, px);
-    b.maxX = std::max(b.maxX, px);
-    b.minY = std::min(b.minY, py);
+    b.minX = std::min(b.minX, px), b.maxX = std::max(b.maxX, px), b.minY = std::min(b.minY, py);
     b.maxY = std::max(b.maxY, py);
   }
   return b;

@@ -192,10 +192,7 @@ TEST_F(DistintaTabelle, AltezzaFazzoletto) {
   for (const Caso& c : casi) {
     SCOPED_TRACE(c.altezza);
     SetUp();
-    s_.nodo.Fz_e = c.e;
-    s_.nodo.Fz_f = c.f;
-    s_.nodo.Fz_g = c.g;
-    s_.nodo.Fz_h = c.h;
+    s_.nodo.Fz_e = c.e, s_.nodo.Fz_f = c.f, s_.nodo.Fz_g = c.g, s_.nodo.Fz_h = c.h;
     t_.chiamate.clear();
     Disegna(1);
     EXPECT_EQ(RigheScritte()[4], (std::vector<std::string>{"1", "800", c.altezza, "10"}));

@@ -77,9 +77,7 @@ TEST_F(FormOpzioniTest, AnnullaLasciaLaTabellaMaNonIlFlagDelleSaldature) {
 
 TEST_F(FormOpzioniTest, ChiudiCopiaIlForm) {
   FormOpzioni f = ApriFormOpzioni(s);
-  f.Par_Nodo[7] = "7.5";
-  f.Par_Nodo[13] = "12abc";
-  f.Par_Nodo[15] = "";
+  f.Par_Nodo[7] = "7.5", f.Par_Nodo[13] = "12abc", f.Par_Nodo[15] = "";
   f.NotaFori = "  Fori alesati  ";
   Chiudi(f, s);
   EXPECT_EQ(s.opzioni[7], 7.5);

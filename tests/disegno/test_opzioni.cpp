@@ -120,10 +120,7 @@ TEST_F(OpzioniTest, LeggiOpzioniFormRegole) {
   form.Par_Nodo[13] = "12.5";   // also row 17
   form.Par_Nodo[15] = "2";      // row 19, not 15
   form.CheckQuote = false;
-  form.CheckDistinta = true;
-  form.CheckAresBull = true;
-  form.QuoteBull1 = false;
-  form.IndQuote = 0;
+  form.CheckDistinta = true, form.CheckAresBull = true, form.QuoteBull1 = false, form.IndQuote = 0;
   form.NotaFori = "  Fori   maggiorati \t";
 
   const Opzioni o = LeggiOpzioniForm(form, attuali);
@@ -139,10 +136,7 @@ TEST_F(OpzioniTest, LeggiOpzioniFormRegole) {
   for (const auto& c : casi) EXPECT_EQ(o[c.riga], c.atteso) << "riga " << c.riga;
   EXPECT_EQ(o.NotaDisegno, "Fori   maggiorati");
 
-  form.CheckQuote = true;
-  form.QuoteBull1 = true;
-  form.CheckAresBull = false;
-  form.IndQuote = 1;
+  form.CheckQuote = true, form.QuoteBull1 = true, form.CheckAresBull = false, form.IndQuote = 1;
   const Opzioni o2 = LeggiOpzioniForm(form, attuali);
   EXPECT_EQ(o2[15], 1);
   EXPECT_EQ(o2[24], 1);

@@ -227,10 +227,8 @@ TEST(ProfiliDettagli, TitoloSopraLaCoppiaOpposta) {
   Nodo& n = d.s.nodo;
   n.Aste[3].Nome = "LU60x6";
   n.Aste[3].Tipo = 1, n.Aste[3].h = 60, n.Aste[3].b = 60, n.Aste[3].a = 6, n.Aste[3].e = 6;
-  n.Aste[3].dBarX = 16.9;
-  n.Ast_modo[3] = static_cast<std::int16_t>(AstModo::Opposta);
-  n.Ast_ins[3] = 100;
-  n.Fz_s = 10;
+  n.Aste[3].dBarX = 16.9, n.Ast_modo[3] = static_cast<std::int16_t>(AstModo::Opposta);
+  n.Ast_ins[3] = 100, n.Fz_s = 10;
   StatoEsecutivo stato;
   DettaglioForiAsta(d.t, stato, 3);
   ASSERT_EQ(d.t.testi.size(), 1u);

@@ -15,6 +15,7 @@
 #include "disegno/esecutivo/tavola.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "quote_prova.h"
 #include "verifica/geometria.h"
 
 namespace qf17::prova {
@@ -69,41 +70,6 @@ struct DisegnoProva {
   Sessione s{p};
   TavolaProfili t{s};
 };
-
-struct LineaLetta {
-  Punto a, b;
-  std::int16_t colore, tipo;
-};
-
-inline std::vector<LineaLetta> Linee(const Sessione& s) {
-  const TabelleDisegno& t = s.disegno.Tabelle();
-  std::vector<LineaLetta> linee;
-  for (int i = 0; i < s.disegno.NumLinee; ++i) {
-    linee.push_back({{t.CoordX[t.LinP1[i]], t.CoordY[t.LinP1[i]]},
-                     {t.CoordX[t.LinP2[i]], t.CoordY[t.LinP2[i]]},
-                     t.LinColore[i],
-                     t.LinTipo[i]});
-  }
-  return linee;
-}
-
-struct ArcoLetto {
-  Punto centro, inizio, fine;
-  std::int16_t colore;
-  double Diametro() const { return 2 * Modulo(inizio - centro); }
-};
-
-inline std::vector<ArcoLetto> Archi(const Sessione& s) {
-  const TabelleDisegno& t = s.disegno.Tabelle();
-  std::vector<ArcoLetto> archi;
-  for (int i = 0; i < s.disegno.NumArchi; ++i) {
-    archi.push_back({{t.CoordX[t.ArcCentro[i]], t.CoordY[t.ArcCentro[i]]},
-                     {t.CoordX[t.ArcInizio[i]], t.CoordY[t.ArcInizio[i]]},
-                     {t.CoordX[t.ArcFine[i]], t.CoordY[t.ArcFine[i]]},
-                     t.ArcColore[i]});
-  }
-  return archi;
-}
 
 inline bool Vicini(Punto a, Punto b, double tolleranza = 1e-6) {
   return std::abs(a.x - b.x) < tolleranza && std::abs(a.y - b.y) < tolleranza;

@@ -77,12 +77,12 @@ TEST_F(QuotaTest, FrecceEAncoraDiUnaQuotaInclinata) {
   const auto linee = Linee(a);
   ASSERT_EQ(linee.size(), 7u);
   const struct {
-    Punto p1, p2;
+    Punto a, b;
   } attese[] = {{{0, 0}, a1},   {{0, 0}, b1}, {a1, b1},          {{30, 40}, a2},
                 {{30, 40}, b2}, {a2, b2},     {{0, 0}, {30, 40}}};
   for (std::size_t i = 0; i < linee.size(); ++i) {
-    AttesoPunto(linee[i].p1, attese[i].p1.x, attese[i].p1.y, "linea " + std::to_string(i));
-    AttesoPunto(linee[i].p2, attese[i].p2.x, attese[i].p2.y, "linea " + std::to_string(i));
+    AttesoPunto(linee[i].a, attese[i].a.x, attese[i].a.y, "linea " + std::to_string(i));
+    AttesoPunto(linee[i].b, attese[i].b.x, attese[i].b.y, "linea " + std::to_string(i));
     EXPECT_EQ(linee[i].colore, 4);
   }
   const auto testi = Testi(a);
@@ -107,8 +107,8 @@ TEST_F(QuotaTest, IndicatoriDentroFinoADueDiametri) {
     const auto linee = Linee(a);
     ASSERT_EQ(linee.size(), 7u);
     // First tip of each end: (0, 0) + verso (5, r tan15), (L, 0) - verso (5, r tan15).
-    AttesoPunto(linee[0].p2, 5 * c.verso, rt * c.verso, "punta 1");
-    AttesoPunto(linee[3].p2, c.lunghezza - 5 * c.verso, -rt * c.verso, "punta 2");
+    AttesoPunto(linee[0].b, 5 * c.verso, rt * c.verso, "punta 1");
+    AttesoPunto(linee[3].b, c.lunghezza - 5 * c.verso, -rt * c.verso, "punta 2");
   }
   // Circles instead of arrows: one of diameter 5 at each end, in the line's colour.
   s.opzioni[27] = 0;
@@ -159,8 +159,8 @@ TEST_F(QuotaTest, QuotaVerticaleSaleA90Gradi) {
     EXPECT_EQ(testi[0].testo, "100");
     AttesoPunto(testi[0].punto, -10, 38, dallAlto ? "dall'alto" : "dal basso");
     // The first arrow is at the lower end, opening upward.
-    AttesoPunto(Linee(a)[0].p1, 0, 0, "prima freccia");
-    AttesoPunto(Linee(a)[0].p2, -5 * kTan15, 5, "prima freccia");
+    AttesoPunto(Linee(a)[0].a, 0, 0, "prima freccia");
+    AttesoPunto(Linee(a)[0].b, -5 * kTan15, 5, "prima freccia");
   }
 }
 

@@ -20,7 +20,7 @@ using prova::Linee;
 using prova::Stringhe;
 
 struct Segmento {
-  Punto p1, p2;
+  Punto a, b;
 };
 
 // A hand-built node. Chord: channel h 100, b 50, at angle 0. Gusset a 100, b 200, c 200, d 100,
@@ -38,10 +38,7 @@ class QuoteNodoTest : public ::testing::Test, public prova::SessioneQuote {
  protected:
   void SetUp() override {
     Nodo& n = s.nodo;
-    n.Corrente.Nome = "UPN100";
-    n.Corrente.h = 100;
-    n.Corrente.b = 50;
-    n.Corrente.dBarX = 50;
+    n.Corrente.Nome = "UPN100", n.Corrente.h = 100, n.Corrente.b = 50, n.Corrente.dBarX = 50;
     n.Corrente.Tipo = 0;
     for (int i = 0; i <= 6; ++i) n.Ast_flag[i] = 0;
     n.Fz_a = 100, n.Fz_b = 200, n.Fz_c = 200, n.Fz_d = 100;
@@ -52,16 +49,9 @@ class QuoteNodoTest : public ::testing::Test, public prova::SessioneQuote {
   }
   void Asta(int i, double gradi, AstModo modo, double b) {
     Nodo& n = s.nodo;
-    n.Aste[i].Nome = "L60";
-    n.Aste[i].h = 60;
-    n.Aste[i].b = b;
-    n.Aste[i].dBarX = 15;
-    n.Aste[i].Tipo = 1;
-    n.Ast_flag[i] = 1;
-    n.Ast_modo[i] = static_cast<std::int16_t>(modo);
-    n.Ast_lato[i] = 0;
-    n.Ast_teta[i] = GradiInRadianti(gradi);
-    n.Ast_coeff[i] = 1;
+    n.Aste[i].Nome = "L60", n.Aste[i].h = 60, n.Aste[i].b = b, n.Aste[i].dBarX = 15;
+    n.Aste[i].Tipo = 1, n.Ast_flag[i] = 1, n.Ast_modo[i] = static_cast<std::int16_t>(modo);
+    n.Ast_lato[i] = 0, n.Ast_teta[i] = GradiInRadianti(gradi), n.Ast_coeff[i] = 1;
     n.Ast_ins[i] = 100;
   }
 
@@ -71,8 +61,8 @@ class QuoteNodoTest : public ::testing::Test, public prova::SessioneQuote {
     ASSERT_EQ(linee.size(), segmenti.size());
     for (std::size_t i = 0; i < linee.size(); ++i) {
       const std::string dove = "linea " + std::to_string(i);
-      AttesoPunto(linee[i].p1, segmenti[i].p1.x, segmenti[i].p1.y, dove);
-      AttesoPunto(linee[i].p2, segmenti[i].p2.x, segmenti[i].p2.y, dove);
+      AttesoPunto(linee[i].a, segmenti[i].a.x, segmenti[i].a.y, dove);
+      AttesoPunto(linee[i].b, segmenti[i].b.x, segmenti[i].b.y, dove);
     }
   }
 
@@ -246,16 +236,16 @@ TEST_F(QuoteNodoTest, QuoteNodoInOrdine) {
     EXPECT_EQ(Stringhe(a), attesi);
     const auto linee = Linee(a);
     ASSERT_EQ(linee.size(), attesi.size() - 1);  // the angle's text has no line
-    AttesoPunto(linee[0].p1, -389, -300, "sinistra");
-    AttesoPunto(linee[3].p1, 429, -300, "destra");
-    AttesoPunto(linee[6].p1, -300, 89, "lunghezze");
-    AttesoPunto(linee[10].p1, -300, 129, "tagli");
-    AttesoPunto(linee[13].p1, 430, 89, "corrente");
-    AttesoPunto(linee[14].p1, -45, -559.375, "altezza A");
-    AttesoPunto(linee[14].p2, 15, -559.375, "altezza A");
-    AttesoPunto(linee[15].p1, -15, -619.375, "larghezza A");
-    AttesoPunto(linee[15].p2, -15, -559.375, "larghezza A");
-    if (saldature) AttesoPunto(linee[16].p1, 63, -269.375, "saldatura 1");
+    AttesoPunto(linee[0].a, -389, -300, "sinistra");
+    AttesoPunto(linee[3].a, 429, -300, "destra");
+    AttesoPunto(linee[6].a, -300, 89, "lunghezze");
+    AttesoPunto(linee[10].a, -300, 129, "tagli");
+    AttesoPunto(linee[13].a, 430, 89, "corrente");
+    AttesoPunto(linee[14].a, -45, -559.375, "altezza A");
+    AttesoPunto(linee[14].b, 15, -559.375, "altezza A");
+    AttesoPunto(linee[15].a, -15, -619.375, "larghezza A");
+    AttesoPunto(linee[15].b, -15, -559.375, "larghezza A");
+    if (saldature) AttesoPunto(linee[16].a, 63, -269.375, "saldatura 1");
   }
   // The member's arc, after the 14 dimensions' two circles each: diameter 3 x 2 x 8 = 48 round
   // the node, from the member (-90 degrees) to the X axis, in the dimension lines' colour.

@@ -9,6 +9,8 @@
 #include "disegno/archivio_disegno_primitive.h"
 #include "disegno/formati/pulisci_disegno.h"
 #include "disegno/formati/salva_dis.h"
+#include "disegno/formati/salva_dxf.h"
+#include "disegno/formati/salva_svg.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
 #include "supporto/cartella_prova.h"
@@ -95,32 +97,51 @@ TEST_F(SalvaDisTest, RigaDiVersioneDiVentiCaratteri) {
   }
 }
 
+// The boxes of the three writers by the silence flag: the SVG writer answers as the DIS one; the
+// DXF writer has a title of its own and tells a failure even when asked to be silent.
 TEST_F(SalvaDisTest, MessaggiSecondoIlSilenzio) {
   struct Caso {
+    std::string formato;
     bool scrivibile;
     std::int16_t silenzioso;
     bool messaggio;
   };
-  for (const Caso c : {Caso{true, 0, true}, Caso{true, 1, false}, Caso{true, 2, false},
-                       Caso{true, -1, true}, Caso{false, 0, true}, Caso{false, 1, false},
-                       Caso{false, 2, true}, Caso{false, -1, false}}) {
-    SCOPED_TRACE(testing::Message() << c.scrivibile << " " << c.silenzioso);
+  const Caso casi[] = {
+      {"dis", true, 0, true},  {"dis", true, 1, false},   {"dis", true, 2, false},
+      {"dis", true, -1, true}, {"dis", false, 0, true},   {"dis", false, 1, false},
+      {"dis", false, 2, true}, {"dis", false, -1, false}, {"svg", true, 0, true},
+      {"svg", true, 1, false}, {"svg", false, 2, true},   {"dxf", true, 0, true},
+      {"dxf", true, 1, false}, {"dxf", false, 0, true},   {"dxf", false, 1, true},
+  };
+  for (const Caso& c : casi) {
+    SCOPED_TRACE(testing::Message() << c.formato << " " << c.scrivibile << " " << c.silenzioso);
     p.messaggi.clear();
     AzzeraDisegno(a);
     Schizzo();
-    const std::string nome = c.scrivibile ? File("nodo.dis") : File("manca/nodo.dis");
-    std::int16_t versione = 4;
-    SalvaDis(s, nome, versione, c.silenzioso);
-    EXPECT_EQ(versione, c.scrivibile ? 1 : 0);
-    EXPECT_EQ(a.NumLinee, 6);  // cleaned whatever happened to the file
-    ASSERT_EQ(p.messaggi.size(), c.messaggio ? 1u : 0u);
-    if (!c.messaggio) continue;
-    if (c.scrivibile) {
-      EXPECT_EQ(p.messaggi[0].titolo, "SALVA FILE DISEGNO");
+    const std::string nome = File((c.scrivibile ? "nodo." : "manca/nodo.") + c.formato);
+    bool riuscito = false;
+    if (c.formato == "dis") {
+      std::int16_t versione = 4;
+      SalvaDis(s, nome, versione, c.silenzioso);
+      riuscito = versione == 1;
+      EXPECT_EQ(a.NumLinee, 6);  // cleaned whatever happened to the file
+    } else if (c.formato == "svg") {
+      riuscito = SalvaSvg(s, nome, c.silenzioso);
     } else {
-      EXPECT_EQ(p.messaggi[0].titolo, "ERRORE");
-      EXPECT_EQ(p.messaggi[0].testo, "Errore durante la scrittura sul file" + nome);
+      riuscito = SalvaDxf(s, nome, 0, 0, 0, 0, c.silenzioso);
     }
+    EXPECT_EQ(riuscito, c.scrivibile);
+    const bool dxf = c.formato == "dxf";
+    std::vector<std::string> attesi, visti;
+    if (c.messaggio && c.scrivibile) {
+      attesi.push_back((dxf ? "SALVA FILE DXF" : "SALVA FILE DISEGNO") + (": File " + nome) +
+                       " salvato.");
+    } else if (c.messaggio) {
+      attesi.push_back(dxf ? "QF17: ERRORE: non riesco ad aprire il file " + nome
+                           : "ERRORE: Errore durante la scrittura sul file" + nome);
+    }
+    for (const auto& m : p.messaggi) visti.push_back(m.titolo + ": " + m.testo);
+    EXPECT_EQ(visti, attesi);
   }
 }
 
@@ -184,10 +205,8 @@ TEST_F(SalvaDisTest, LineeCoperteTolteSoloSeColorateENonContinue) {
 TEST_F(SalvaDisTest, ColoreZeroRestaNegativiVanno) {
   auto linea = [this](double x1, double x2, std::int16_t colore, std::int16_t tipo) {
     const std::int32_t i = a.NumLinee++;
-    t.LinP1[i] = AggiungiCoordinata(a, p, x1, 0);
-    t.LinP2[i] = AggiungiCoordinata(a, p, x2, 0);
-    t.LinColore[i] = colore;
-    t.LinTipo[i] = tipo;
+    t.LinP1[i] = AggiungiCoordinata(a, p, x1, 0), t.LinP2[i] = AggiungiCoordinata(a, p, x2, 0);
+    t.LinColore[i] = colore, t.LinTipo[i] = tipo;
   };
   linea(0, 10, 1, 0);
   linea(2, 8, 0, 4);     // colour 0 on a continuous line: stays
@@ -269,10 +288,7 @@ TEST_F(SalvaDisTest, CatenaDiPuntiVicini) {
   const std::int32_t q = coordinata(50);
   for (std::int32_t estremo : {p0, p1, p2}) {
     const std::int32_t i = a.NumLinee++;
-    t.LinP1[i] = estremo;
-    t.LinP2[i] = q;
-    t.LinColore[i] = 1;
-    t.LinTipo[i] = 0;
+    t.LinP1[i] = estremo, t.LinP2[i] = q, t.LinColore[i] = 1, t.LinTipo[i] = 0;
   }
   PulisciDisegno(a);
   ASSERT_EQ(a.NumCoord, 3);

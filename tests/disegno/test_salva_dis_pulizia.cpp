@@ -88,19 +88,14 @@ testing::AssertionResult StessoDisegno(const ArchivioDisegno& veloce,
 void CopiaRigheVive(const ArchivioDisegno& da, ArchivioDisegno& in) {
   const TabelleDisegno& x = da.Tabelle();
   TabelleDisegno& y = in.Tabelle();
-  in.NumCoord = da.NumCoord;
-  in.NumLinee = da.NumLinee;
-  in.NumPunti = da.NumPunti;
-  in.NumArchi = da.NumArchi;
-  in.NumTesti = da.NumTesti;
+  in.NumCoord = da.NumCoord, in.NumLinee = da.NumLinee, in.NumPunti = da.NumPunti;
+  in.NumArchi = da.NumArchi, in.NumTesti = da.NumTesti;
   for (std::int32_t i = 0; i < da.NumCoord; ++i) {
     y.CoordX[i] = x.CoordX[i];
     y.CoordY[i] = x.CoordY[i];
   }
   for (std::int32_t i = 0; i < da.NumLinee; ++i) {
-    y.LinP1[i] = x.LinP1[i];
-    y.LinP2[i] = x.LinP2[i];
-    y.LinColore[i] = x.LinColore[i];
+    y.LinP1[i] = x.LinP1[i], y.LinP2[i] = x.LinP2[i], y.LinColore[i] = x.LinColore[i];
     y.LinTipo[i] = x.LinTipo[i];
   }
   for (std::int32_t i = 0; i < da.NumPunti; ++i) {
@@ -109,20 +104,14 @@ void CopiaRigheVive(const ArchivioDisegno& da, ArchivioDisegno& in) {
     y.PuntoB[i] = x.PuntoB[i];
   }
   for (std::int32_t i = 0; i < da.NumArchi; ++i) {
-    y.ArcCentro[i] = x.ArcCentro[i];
-    y.ArcInizio[i] = x.ArcInizio[i];
-    y.ArcCentro2[i] = x.ArcCentro2[i];
-    y.ArcFine[i] = x.ArcFine[i];
-    y.ArcColore[i] = x.ArcColore[i];
+    y.ArcCentro[i] = x.ArcCentro[i], y.ArcInizio[i] = x.ArcInizio[i];
+    y.ArcCentro2[i] = x.ArcCentro2[i], y.ArcFine[i] = x.ArcFine[i], y.ArcColore[i] = x.ArcColore[i];
     y.ArcTipo[i] = x.ArcTipo[i];
   }
   for (std::int32_t i = 0; i < da.NumTesti; ++i) {
-    y.TestoPunto[i] = x.TestoPunto[i];
-    y.TestoAngolo[i] = x.TestoAngolo[i];
-    y.TestoLarghezza[i] = x.TestoLarghezza[i];
-    y.TestoAltezza[i] = x.TestoAltezza[i];
-    y.TestoColore[i] = x.TestoColore[i];
-    y.TestoStringa[i] = x.TestoStringa[i];
+    y.TestoPunto[i] = x.TestoPunto[i], y.TestoAngolo[i] = x.TestoAngolo[i];
+    y.TestoLarghezza[i] = x.TestoLarghezza[i], y.TestoAltezza[i] = x.TestoAltezza[i];
+    y.TestoColore[i] = x.TestoColore[i], y.TestoStringa[i] = x.TestoStringa[i];
   }
 }
 
@@ -241,18 +230,14 @@ class DisegnoCasuale {
     const std::int32_t i = a.NumArchi++;
     if (i > 0 && Prob(0.35)) {
       const std::int32_t j = Intero(0, i - 1);
-      t.ArcCentro[i] = t.ArcCentro[j];
-      t.ArcInizio[i] = t.ArcInizio[j];
-      t.ArcCentro2[i] = t.ArcCentro2[j];
-      t.ArcFine[i] = t.ArcFine[j];
-      t.ArcColore[i] = t.ArcColore[j];
-      t.ArcTipo[i] = t.ArcTipo[j];
+      t.ArcCentro[i] = t.ArcCentro[j], t.ArcInizio[i] = t.ArcInizio[j];
+      t.ArcCentro2[i] = t.ArcCentro2[j], t.ArcFine[i] = t.ArcFine[j];
+      t.ArcColore[i] = t.ArcColore[j], t.ArcTipo[i] = t.ArcTipo[j];
       if (Prob(0.3)) t.ArcFine[i] = Indice(a);  // equal but for one field
       if (Prob(0.2)) t.ArcColore[i] = 4;
       return;
     }
-    t.ArcCentro[i] = Indice(a);
-    t.ArcInizio[i] = Indice(a);
+    t.ArcCentro[i] = Indice(a), t.ArcInizio[i] = Indice(a);
     t.ArcCentro2[i] = Prob(0.9) ? t.ArcCentro[i] : Indice(a);
     t.ArcFine[i] = Prob(0.6) ? t.ArcInizio[i] : Indice(a);
     t.ArcColore[i] = Scegli<std::int16_t>({1, 3});
@@ -308,8 +293,7 @@ TEST(PuliziaDifferenziale, CoordinateLontaneENonFinite) {
     }
     a.NumLinee = intero(30);
     for (std::int32_t i = 0; i < a.NumLinee; ++i) {
-      t.LinP1[i] = intero(a.NumCoord);
-      t.LinP2[i] = intero(a.NumCoord);
+      t.LinP1[i] = intero(a.NumCoord), t.LinP2[i] = intero(a.NumCoord);
       t.LinColore[i] = static_cast<std::int16_t>(intero(3));
       t.LinTipo[i] = static_cast<std::int16_t>(intero(2) * 4);
     }

@@ -9,6 +9,7 @@
 #include "disegno/archivio_disegno.h"
 #include "disegno/archivio_disegno_primitive.h"
 #include "disegno/formati/salva_dxf.h"
+#include "disegno_a_mano.h"
 #include "librerie/numeri.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
@@ -28,52 +29,8 @@ const std::string kTestaOrigine =
     " 0\r\nENDTAB\r\n 0\r\nENDSEC\r\n 0\r\nSECTION\r\n 2\r\nENTITIES\r\n";
 const std::string kCoda = " 0\r\nENDSEC\r\n 0\r\nEOF\r\n";
 
-class SalvaDxfTest : public ::testing::Test {
+class SalvaDxfTest : public prova::DisegnoAMano {
  protected:
-  void SetUp() override {
-    AzzeraDisegno(a);
-    // A font of one glyph, "A": one stroke from the baseline's left end to the top right corner
-    // of the cell. "&" is absent and only takes its cell.
-    s.font.FontNumPunti.fill(-1);
-    s.font.FontNumPunti['A'] = 2;
-    s.font.FontX['A'][0] = 0;
-    s.font.FontY['A'][0] = 30;
-    s.font.FontX['A'][1] = 99;
-    s.font.FontY['A'][1] = 99;
-  }
-
-  std::int32_t Punto(double x, double y) {
-    t.CoordX[a.NumCoord] = x;
-    t.CoordY[a.NumCoord] = y;
-    return a.NumCoord++;
-  }
-  void Linea(std::int32_t p1, std::int32_t p2, std::int16_t colore, std::int16_t tipo) {
-    const std::int32_t i = a.NumLinee++;
-    t.LinP1[i] = p1;
-    t.LinP2[i] = p2;
-    t.LinColore[i] = colore;
-    t.LinTipo[i] = tipo;
-  }
-  void Arco(std::int32_t centro, std::int32_t inizio, std::int32_t fine, std::int16_t colore,
-            std::int16_t tipo = 0) {
-    const std::int32_t i = a.NumArchi++;
-    t.ArcCentro[i] = t.ArcCentro2[i] = centro;
-    t.ArcInizio[i] = inizio;
-    t.ArcFine[i] = fine;
-    t.ArcColore[i] = colore;
-    t.ArcTipo[i] = tipo;
-  }
-  void Testo(std::int32_t punto, std::int16_t angolo, std::int16_t larghezza, std::int16_t altezza,
-             std::int16_t colore, const std::string& testo) {
-    const std::int32_t i = a.NumTesti++;
-    t.TestoPunto[i] = punto;
-    t.TestoAngolo[i] = angolo;
-    t.TestoLarghezza[i] = larghezza;
-    t.TestoAltezza[i] = altezza;
-    t.TestoColore[i] = colore;
-    t.TestoStringa[i] = testo;
-  }
-
   // Lines of each kind, texts with the diameter sign, an accent, a negative angle and no height,
   // a circle, two arcs and one of no radius.
   void Schizzo() {
@@ -106,12 +63,6 @@ class SalvaDxfTest : public ::testing::Test {
     const std::size_t da = inizio + 10;
     return dxf.substr(da, dxf.size() - kCoda.size() - da);
   }
-
-  PiattaformaRegistrata p;
-  Sessione s{p};
-  ArchivioDisegno& a = s.disegno;
-  TabelleDisegno& t = a.Tabelle();
-  prova::CartellaProva cartella;
 };
 
 // The expected file was written by hand. Extents over all 18 coordinates: X -20.5 to 200,
@@ -344,27 +295,6 @@ TEST_F(SalvaDxfTest, TestiEsplosiInTratti) {
                               linea(" 200", " 10", " 193.1", " 20"));
   modo.monocromo = true;
   EXPECT_EQ(Entita(modo).find(" 62"), std::string::npos);
-}
-
-TEST_F(SalvaDxfTest, SilenziosoNonConferma) {
-  Schizzo();
-  const std::string nome = (cartella.percorso() / "zitto.dxf").string();
-  EXPECT_TRUE(SalvaDxf(s, nome, 0, 0, 0, 0, 1));
-  EXPECT_TRUE(p.messaggi.empty());
-  EXPECT_EQ(prova::LeggiTutto(nome), TestoDxf(a, s.font));
-}
-
-TEST_F(SalvaDxfTest, FileNonScrivibile) {
-  Schizzo();
-  const std::string nome = (cartella.percorso() / "manca" / "x.dxf").string();
-  for (std::int16_t silenzioso : {0, 1}) {
-    p.messaggi.clear();
-    EXPECT_FALSE(SalvaDxf(s, nome, 0, 0, 0, 0, silenzioso));
-    ASSERT_EQ(p.messaggi.size(), 1u);
-    EXPECT_EQ(p.messaggi[0].testo, "ERRORE: non riesco ad aprire il file " + nome);
-    EXPECT_EQ(p.messaggi[0].titolo, "QF17");
-    EXPECT_FALSE(fs::exists(nome));
-  }
 }
 
 }  // namespace

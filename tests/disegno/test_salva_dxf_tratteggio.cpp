@@ -10,6 +10,7 @@
 #include "disegno/formati/salva_dxf.h"
 #include "disegno/formati/salva_dxf_tipi_linea.h"
 #include "disegno/formati/salva_dxf_tratteggio.h"
+#include "disegno_a_mano.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
 #include "supporto/cartella_prova.h"
@@ -23,20 +24,10 @@ namespace fs = std::filesystem;
 // 100, gap 20, dot 10, gap 20; type 2: 5 and 5 tenths.
 TipiLinea Tipi() {
   TipiLinea t;
-  t.TipoNumTratti[4] = 2;
-  t.TipoTratti(4, 0) = 60;
-  t.TipoTratti(4, 1) = 30;
-  t.TipoLunghezza[4] = 90;
-  t.TipoNumTratti[1] = 4;
-  t.TipoTratti(1, 0) = 100;
-  t.TipoTratti(1, 1) = 20;
-  t.TipoTratti(1, 2) = 10;
-  t.TipoTratti(1, 3) = 20;
-  t.TipoLunghezza[1] = 150;
-  t.TipoNumTratti[2] = 2;
-  t.TipoTratti(2, 0) = 5;
-  t.TipoTratti(2, 1) = 5;
-  t.TipoLunghezza[2] = 10;
+  t.TipoNumTratti[4] = 2, t.TipoTratti(4, 0) = 60, t.TipoTratti(4, 1) = 30, t.TipoLunghezza[4] = 90;
+  t.TipoNumTratti[1] = 4, t.TipoTratti(1, 0) = 100, t.TipoTratti(1, 1) = 20;
+  t.TipoTratti(1, 2) = 10, t.TipoTratti(1, 3) = 20, t.TipoLunghezza[1] = 150;
+  t.TipoNumTratti[2] = 2, t.TipoTratti(2, 0) = 5, t.TipoTratti(2, 1) = 5, t.TipoLunghezza[2] = 10;
   return t;
 }
 
@@ -144,26 +135,12 @@ TEST(DisgregaLineaTest, LineeIntere) {
 
 // In the file: a type 4 line is one LINE named DASHED2 in plain mode; broken up at 1:1 it is its
 // dashes, continuous (no group 6), with the line's colour; a continuous line is never broken.
-TEST(DisgregaLineaTest, NelFileDxf) {
-  PiattaformaRegistrata p;
-  Sessione s{p};
-  ArchivioDisegno& a = s.disegno;
-  TabelleDisegno& t = a.Tabelle();
-  AzzeraDisegno(a);
-  t.CoordX[0] = 0;
-  t.CoordY[0] = 0;
-  t.CoordX[1] = 10;
-  t.CoordY[1] = 0;
-  a.NumCoord = 2;
-  t.LinP1[0] = 0;
-  t.LinP2[0] = 1;
-  t.LinColore[0] = 2;
-  t.LinTipo[0] = 4;
-  t.LinP1[1] = 0;
-  t.LinP2[1] = 1;
-  t.LinColore[1] = 1;
-  t.LinTipo[1] = 0;
-  a.NumLinee = 2;
+using DisgregaNelFile = prova::DisegnoAMano;
+
+TEST_F(DisgregaNelFile, NelFileDxf) {
+  const std::int32_t inizio = Punto(0, 0), fine = Punto(10, 0);
+  Linea(inizio, fine, 2, 4);
+  Linea(inizio, fine, 1, 0);
   auto linea = [](std::string x1, std::string x2, std::string coda) {
     return " 0\r\nLINE\r\n 8\r\n0\r\n 10\r\n" + x1 + "\r\n 20\r\n 0\r\n 30\r\n0.0\r\n 11\r\n" + x2 +
            "\r\n 21\r\n 0\r\n 31\r\n0.0\r\n" + coda;

@@ -6,6 +6,7 @@
 
 #include "disegno/archivio_disegno.h"
 #include "disegno/formati/salva_svg.h"
+#include "disegno_a_mano.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
 #include "supporto/cartella_prova.h"
@@ -13,51 +14,8 @@
 namespace qf17 {
 namespace {
 
-class SalvaSvgTest : public ::testing::Test {
+class SalvaSvgTest : public prova::DisegnoAMano {
  protected:
-  void SetUp() override {
-    AzzeraDisegno(a);
-    // A font of one glyph, "A": one stroke from the baseline's left end to the top right corner
-    // of the cell. "&" is absent and only takes its cell.
-    s.font.FontNumPunti.fill(-1);
-    s.font.FontNumPunti['A'] = 2;
-    s.font.FontX['A'][0] = 0;
-    s.font.FontY['A'][0] = 30;
-    s.font.FontX['A'][1] = 99;
-    s.font.FontY['A'][1] = 99;
-  }
-
-  std::int32_t Punto(double x, double y) {
-    t.CoordX[a.NumCoord] = x;
-    t.CoordY[a.NumCoord] = y;
-    return a.NumCoord++;
-  }
-  void Linea(std::int32_t p1, std::int32_t p2, std::int16_t colore, std::int16_t tipo) {
-    const std::int32_t i = a.NumLinee++;
-    t.LinP1[i] = p1;
-    t.LinP2[i] = p2;
-    t.LinColore[i] = colore;
-    t.LinTipo[i] = tipo;
-  }
-  void Arco(std::int32_t centro, std::int32_t inizio, std::int32_t fine, std::int16_t colore) {
-    const std::int32_t i = a.NumArchi++;
-    t.ArcCentro[i] = t.ArcCentro2[i] = centro;
-    t.ArcInizio[i] = inizio;
-    t.ArcFine[i] = fine;
-    t.ArcColore[i] = colore;
-    t.ArcTipo[i] = 0;
-  }
-  void Testo(std::int32_t punto, std::int16_t angolo, std::int16_t larghezza, std::int16_t altezza,
-             std::int16_t colore, const std::string& testo) {
-    const std::int32_t i = a.NumTesti++;
-    t.TestoPunto[i] = punto;
-    t.TestoAngolo[i] = angolo;
-    t.TestoLarghezza[i] = larghezza;
-    t.TestoAltezza[i] = altezza;
-    t.TestoColore[i] = colore;
-    t.TestoStringa[i] = testo;
-  }
-
   // One line of each style, a circle, a quarter arc and the three-quarter arc that completes it,
   // a flat text, an upright one and a text of no height.
   void Schizzo() {
@@ -73,12 +31,6 @@ class SalvaSvgTest : public ::testing::Test {
     Testo(Punto(200, 0), 90, 100, 69, 1, "AA");
     Testo(Punto(0, 300), 0, 100, 0, 1, "A");
   }
-
-  PiattaformaRegistrata p;
-  Sessione s{p};
-  ArchivioDisegno& a = s.disegno;
-  TabelleDisegno& t = a.Tabelle();
-  prova::CartellaProva cartella;
 };
 
 // The expected file was written by hand. Y is turned downwards. The quarter arc runs
@@ -118,21 +70,6 @@ TEST_F(SalvaSvgTest, IndiciNonValidiSaltati) {
   EXPECT_EQ(svg.find("<circle"), std::string::npos);
   EXPECT_EQ(svg.find("<path"), std::string::npos);
   EXPECT_NE(svg.find("viewBox=\"-10 -10 20 20\""), std::string::npos) << svg;
-}
-
-TEST_F(SalvaSvgTest, SalvataggioConIMessaggiDelDis) {
-  Schizzo();
-  const std::string nome = (cartella.percorso() / "x.svg").string();
-  EXPECT_TRUE(SalvaSvg(s, nome, 0));
-  ASSERT_EQ(p.messaggi.size(), 1u);
-  EXPECT_EQ(p.messaggi[0].testo, "File " + nome + " salvato.");
-  EXPECT_EQ(p.messaggi[0].titolo, "SALVA FILE DISEGNO");
-  EXPECT_TRUE(SalvaSvg(s, nome, 1));
-  const std::string manca = (cartella.percorso() / "manca" / "x.svg").string();
-  EXPECT_FALSE(SalvaSvg(s, manca, 2));
-  ASSERT_EQ(p.messaggi.size(), 2u);
-  EXPECT_EQ(p.messaggi[1].testo, "Errore durante la scrittura sul file" + manca);
-  EXPECT_EQ(p.messaggi[1].titolo, "ERRORE");
 }
 
 }  // namespace

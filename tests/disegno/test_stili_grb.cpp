@@ -71,21 +71,6 @@ TEST_F(StiliGRBTest, ListeSuPiuRigheEConVirgole) {
   EXPECT_EQ(stili_.GRBCarattere[2], 2);
 }
 
-TEST_F(StiliGRBTest, IlModelloDellInstallazione) {
-  LeggiStiliGRB(stili_, fs::path(QF17_SORGENTI) / "installazione" / "custom" / "cad2dmodello.grb",
-                piattaforma_);
-  ASSERT_TRUE(stili_.Letti);
-  EXPECT_TRUE(piattaforma_.messaggi.empty());
-  EXPECT_EQ(stili_.NumStili, 8);
-  // Tenths of a millimetre on paper at scale 4: the default text style 2 is 2.5 mm, 10 units,
-  // and the default dimension style 6 is 2 mm, 8 units, the sizes of the other formats.
-  EXPECT_DOUBLE_EQ(stili_.GRBAltezza[2], 10.0);
-  EXPECT_DOUBLE_EQ(stili_.GRBAltezza[6], 8.0);
-  EXPECT_DOUBLE_EQ(stili_.GRBLarghezza[6], 8.0);
-  EXPECT_DOUBLE_EQ(stili_.GRBAltezza[5], 28.0);
-  EXPECT_EQ(stili_.GRBCarattere[8], 2);
-}
-
 TEST_F(StiliGRBTest, MessaggiDiAperturaEDiLettura) {
   stili_.NumStili = 5;
   stili_.Letti = true;

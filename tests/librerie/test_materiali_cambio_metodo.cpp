@@ -19,26 +19,14 @@ constexpr std::int16_t SLU = 1;
 
 Acciaio Riga(const char* nome, double SAmm, double SAmm40, double fy, double ft, double fy40,
              double ft40) {
-  Acciaio a;
-  a.Nome = nome;
-  a.Norma = "UNI EN 10025-2";
-  a.SAmm = SAmm;
-  a.SAmm40 = SAmm40;
-  a.fy = fy;
-  a.ft = ft;
-  a.fy40 = fy40;
-  a.ft40 = ft40;
-  a.gM = 1.05;
-  a.gMT = 1.25;
-  return a;
+  return {nome, "UNI EN 10025-2", SAmm, SAmm40, fy, fy40, ft, ft40, 1.05, 1.25};
 }
 
 // The installation's open-section steels; S 460 has no allowable stress.
 struct Banco {
   Banco() {
     Materiali& m = s.materiali;
-    m.NumAcciai = 4;
-    m.Acciai[1] = Riga("S 235 (FE 360)", 1600, 1400, 2350, 3600, 2150, 3600);
+    m.NumAcciai = 4, m.Acciai[1] = Riga("S 235 (FE 360)", 1600, 1400, 2350, 3600, 2150, 3600);
     m.Acciai[2] = Riga("S 275 (FE 430)", 1900, 1700, 2750, 4300, 2550, 4100);
     m.Acciai[3] = Riga("S 355 (FE 510)", 2400, 2100, 3550, 5100, 3350, 4700);
     m.Acciai[4] = Riga("S 460 (NTC08)", 0, 0, 4600, 5400, 4300, 5400);

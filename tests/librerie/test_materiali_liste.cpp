@@ -14,14 +14,7 @@ constexpr std::int16_t TA = 0;
 constexpr std::int16_t SLU = 1;
 
 Acciaio A(const char* nome, double SAmm, double SAmm40, double fy, double fy40) {
-  Acciaio a;
-  a.Nome = nome;
-  a.Norma = std::string("norma ") + nome;
-  a.SAmm = SAmm;
-  a.SAmm40 = SAmm40;
-  a.fy = fy;
-  a.fy40 = fy40;
-  return a;
+  return {nome, std::string("norma ") + nome, SAmm, SAmm40, fy, fy40};
 }
 
 // Row 1 only for limit states, row 2 only for allowable stresses, so that the lists of the two

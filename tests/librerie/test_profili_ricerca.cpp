@@ -11,15 +11,8 @@ namespace {
 
 Profilo Riga(const std::string& nome, double h, double b, double a, double e) {
   Profilo p;
-  p.Nome = nome;
-  p.h = h;
-  p.b = b;
-  p.a = a;
-  p.e = e;
-  p.r1 = 99;
-  p.r2 = 98;
-  p.dBarY = 20.1;
-  p.Tipo = 7;
+  p.Nome = nome, p.h = h, p.b = b, p.a = a, p.e = e;
+  p.r1 = 99, p.r2 = 98, p.dBarY = 20.1, p.Tipo = 7;
   return p;
 }
 
@@ -29,13 +22,9 @@ LibreriaProfili Libreria() {
   lib.Profili[1] = Riga("IPELU140", 140, 73, 4.7, 6.9);  // "LU" in a first-list name
   lib.Profili[2] = Riga("HEA200", 190, 200, 6.5, 10);
   lib.Profili[3] = Riga("UPN200", 200, 75, 8.5, 11.5);
-  lib.Profili[4] = Riga("UPN120", 120, 55, 7, 9);
-  lib.Profili[5] = Riga("LU60x6", 60, 60, 6, 6);
-  lib.Profili[6] = Riga("LD80x60x7", 80, 60, 7, 7);
-  lib.Profili[7] = Riga("LU70x7", 70, 70, 7, 7);
-  lib.NumProfili1 = 2;
-  lib.NumProfili2 = 4;
-  lib.NumProfiliTot = 6;
+  lib.Profili[4] = Riga("UPN120", 120, 55, 7, 9), lib.Profili[5] = Riga("LU60x6", 60, 60, 6, 6);
+  lib.Profili[6] = Riga("LD80x60x7", 80, 60, 7, 7), lib.Profili[7] = Riga("LU70x7", 70, 70, 7, 7);
+  lib.NumProfili1 = 2, lib.NumProfili2 = 4, lib.NumProfiliTot = 6;
   return lib;
 }
 

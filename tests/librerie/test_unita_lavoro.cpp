@@ -16,96 +16,79 @@ namespace fs = std::filesystem;
 
 constexpr double kG = 9.80665;
 
+enum class Grandezza { Forze, Lunghezze, Tensioni, Momenti, Carichi };
+
 struct Prova {
+  Grandezza grandezza;
   const char* nome;
   double g;
   double fattore;
   int decimali;
 };
 
-UnitaLavoro Calcola(void (*imposta)(UnitaLavoro&, const char*), const char* nome, double g) {
-  UnitaLavoro u;
-  u.AccelG = g;
-  imposta(u, nome);
-  ParUni(u);
-  return u;
-}
-
-// Every factor below is worked out from the stored units: cm, daN, daN/cm2, daN cm.
-TEST(UnitaLavoro, Forze) {
+// Every factor below is worked out from the stored units: cm, daN, daN/cm2, daN cm. A unit that
+// fits no rule gets factor 0, so its figures show as 0.
+TEST(UnitaLavoro, FattoriEDecimaliPerGrandezza) {
+  using enum Grandezza;
   const Prova prove[] = {
-      {"daN", kG, 1, 1},           {"kN", kG, 0.01, 3},         {"N", kG, 10, 0},
-      {"kgf", kG, 10 / kG, 1},     {"kgf", 9.81, 10 / 9.81, 1}, {"t", kG, 0.01 / kG, 4},
-      {"t", 9.81, 0.01 / 9.81, 4}, {"libbre", kG, 0, 0},  // fits no rule: loads show as 0
+      {Forze, "daN", kG, 1, 1},
+      {Forze, "kN", kG, 0.01, 3},
+      {Forze, "N", kG, 10, 0},
+      {Forze, "kgf", kG, 10 / kG, 1},
+      {Forze, "kgf", 9.81, 10 / 9.81, 1},
+      {Forze, "t", kG, 0.01 / kG, 4},
+      {Forze, "t", 9.81, 0.01 / 9.81, 4},
+      {Forze, "libbre", kG, 0, 0},
+      // Lengths and sections share their units.
+      {Lunghezze, "mm", kG, 10, 0},
+      {Lunghezze, "cm", kG, 1, 1},
+      {Lunghezze, "m", kG, 0.01, 3},
+      {Lunghezze, "in", kG, 0, 0},
+      {Tensioni, "daN/cm2", kG, 1, 1},
+      {Tensioni, "N/mm2", kG, 10 / 100.0, 2},   // 0 + 2 x (1 - 0)
+      {Tensioni, "kN/m2", kG, 0.01 / 1e-4, 0},  // 3 + 2 x (1 - 3) < 0
+      {Tensioni, "kgf/cm2", kG, 10 / kG, 1},
+      {Tensioni, "daN/mm2", kG, 1 / 100.0, 3},
+      {Tensioni, "kN/cm2", kG, 0.01, 3},
+      {Tensioni, "t/m2", kG, (0.01 / kG) / 1e-4, 0},
+      {Tensioni, "kPa", kG, 100, 0},
+      {Tensioni, "MPa", kG, 0.1, 2},
+      {Tensioni, "Pa", kG, 0, 0},
+      {Tensioni, "daN/in2", kG, 0, 0},
+      {Momenti, "daNm", kG, 0.01, 3},  // 1 + 3 - 1
+      {Momenti, "kNm", kG, 0.01 * 0.01, 5},
+      {Momenti, "daNcm", kG, 1, 1},
+      {Momenti, "Nm", kG, 0.1, 2},
+      {Momenti, "Nmm", kG, 100, 0},  // 0 + 0 - 1, at least 0
+      {Momenti, "kgfm", kG, 0.01 * 10 / kG, 3},
+      {Momenti, "tm", kG, 0.01 * 0.01 / kG, 6},
+      {Carichi, "daN/m2", kG, 10000, 0},
+      {Carichi, "kN/m2", kG, 100, 0},
+      {Carichi, "daN/cm2", kG, 1, 1},
+      {Carichi, "kgf/m2", kG, 10 / kG / 1e-4, 0},
+      {Carichi, "kPa", kG, 100, 0},
   };
   for (const Prova& p : prove) {
-    UnitaLavoro u = Calcola([](UnitaLavoro& u, const char* n) { u.UniForze = n; }, p.nome, p.g);
-    EXPECT_DOUBLE_EQ(u.FatForze, p.fattore) << p.nome;
-    EXPECT_EQ(u.DecForze, p.decimali) << p.nome;
-  }
-}
-
-TEST(UnitaLavoro, LunghezzeESezioni) {
-  const Prova prove[] = {
-      {"mm", kG, 10, 0},
-      {"cm", kG, 1, 1},
-      {"m", kG, 0.01, 3},
-      {"in", kG, 0, 0},
-  };
-  for (const Prova& p : prove) {
-    UnitaLavoro u = Calcola(
-        [](UnitaLavoro& u, const char* n) { u.UniLunghezze = u.UniSezioni = n; }, p.nome, p.g);
-    EXPECT_DOUBLE_EQ(u.FatLunghezze, p.fattore) << p.nome;
-    EXPECT_EQ(u.DecLunghezze, p.decimali) << p.nome;
-    EXPECT_DOUBLE_EQ(u.FatSezioni, p.fattore) << p.nome;
-    EXPECT_EQ(u.DecSezioni, p.decimali) << p.nome;
-  }
-}
-
-TEST(UnitaLavoro, Tensioni) {
-  const Prova prove[] = {
-      {"daN/cm2", kG, 1, 1},
-      {"N/mm2", kG, 10 / 100.0, 2},   // 0 + 2 x (1 - 0)
-      {"kN/m2", kG, 0.01 / 1e-4, 0},  // 3 + 2 x (1 - 3) < 0
-      {"kgf/cm2", kG, 10 / kG, 1},
-      {"daN/mm2", kG, 1 / 100.0, 3},
-      {"kN/cm2", kG, 0.01, 3},
-      {"t/m2", kG, (0.01 / kG) / 1e-4, 0},
-      {"kPa", kG, 100, 0},
-      {"MPa", kG, 0.1, 2},
-      {"Pa", kG, 0, 0},
-      {"daN/in2", kG, 0, 0},
-  };
-  for (const Prova& p : prove) {
-    UnitaLavoro u = Calcola([](UnitaLavoro& u, const char* n) { u.UniTensioni = n; }, p.nome, p.g);
-    EXPECT_DOUBLE_EQ(u.FatTensioni, p.fattore) << p.nome;
-    EXPECT_EQ(u.DecTensioni, p.decimali) << p.nome;
-  }
-}
-
-TEST(UnitaLavoro, MomentiECarichi) {
-  const Prova momenti[] = {
-      {"daNm", kG, 0.01, 3},  // 1 + 3 - 1
-      {"kNm", kG, 0.01 * 0.01, 5},
-      {"daNcm", kG, 1, 1},
-      {"Nm", kG, 0.1, 2},
-      {"Nmm", kG, 100, 0},  // 0 + 0 - 1, at least 0
-      {"kgfm", kG, 0.01 * 10 / kG, 3},
-      {"tm", kG, 0.01 * 0.01 / kG, 6},
-  };
-  for (const Prova& p : momenti) {
-    UnitaLavoro u = Calcola([](UnitaLavoro& u, const char* n) { u.UniMomenti = n; }, p.nome, p.g);
-    EXPECT_DOUBLE_EQ(u.FatMomenti, p.fattore) << p.nome;
-    EXPECT_EQ(u.DecMomenti, p.decimali) << p.nome;
-  }
-  const Prova carichi[] = {
-      {"daN/m2", kG, 10000, 0},          {"kN/m2", kG, 100, 0}, {"daN/cm2", kG, 1, 1},
-      {"kgf/m2", kG, 10 / kG / 1e-4, 0}, {"kPa", kG, 100, 0},
-  };
-  for (const Prova& p : carichi) {
-    UnitaLavoro u = Calcola([](UnitaLavoro& u, const char* n) { u.UniCarichi = n; }, p.nome, p.g);
-    EXPECT_DOUBLE_EQ(u.FatCarichi, p.fattore) << p.nome;
-    EXPECT_EQ(u.DecCarichi, p.decimali) << p.nome;
+    SCOPED_TRACE(p.nome);
+    UnitaLavoro u;
+    u.AccelG = p.g;
+    const Grandezza q = p.grandezza;
+    (q == Forze       ? u.UniForze
+     : q == Lunghezze ? u.UniLunghezze
+     : q == Tensioni  ? u.UniTensioni
+     : q == Momenti   ? u.UniMomenti
+                      : u.UniCarichi) = p.nome;
+    if (q == Lunghezze) u.UniSezioni = p.nome;
+    ParUni(u);
+    const double fattori[] = {u.FatForze, u.FatLunghezze, u.FatTensioni, u.FatMomenti,
+                              u.FatCarichi};
+    const int decimali[] = {u.DecForze, u.DecLunghezze, u.DecTensioni, u.DecMomenti, u.DecCarichi};
+    EXPECT_DOUBLE_EQ(fattori[static_cast<int>(q)], p.fattore);
+    EXPECT_EQ(decimali[static_cast<int>(q)], p.decimali);
+    if (q == Lunghezze) {
+      EXPECT_DOUBLE_EQ(u.FatSezioni, p.fattore);
+      EXPECT_EQ(u.DecSezioni, p.decimali);
+    }
   }
 }
 

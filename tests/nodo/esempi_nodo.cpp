@@ -42,10 +42,8 @@ void Aste(Sessione& s, Nodo& n, std::initializer_list<Asta> aste) {
     n.Aste[i] = s.profili.Profili[ProfiloDaNome(s.profili, a.nome, s.piattaforma)];
     n.Ast_flag[i] = n.Ast_flag[i + 3] = 1;
     n.Ast_modo[i] = static_cast<std::int16_t>(a.modo);
-    n.Ast_lato[i] = static_cast<std::int16_t>(a.lato);
-    n.Ast_teta[i] = GradiInRadianti(a.teta);
-    n.Ast_coeff[i] = 1;
-    n.Ast_ins[i] = a.ins;
+    n.Ast_lato[i] = static_cast<std::int16_t>(a.lato), n.Ast_teta[i] = GradiInRadianti(a.teta);
+    n.Ast_coeff[i] = 1, n.Ast_ins[i] = a.ins;
     // What the geometry sets on every run: the insertion on both edges.
     n.Saldature(i, 1).Sld_L = a.ins;
     n.Saldature(i, 2).Sld_L = a.ins;
@@ -74,11 +72,8 @@ void Sollecitazioni(Nodo& n, std::initializer_list<Soll> soll) {
   n.nSollAg = 0;
   for (const Soll& x : soll) {
     const int j = ++n.nSollAg;
-    n.SforzoNormale(1, j) = x.a;
-    n.SforzoNormale(2, j) = x.b;
-    n.SforzoNormale(3, j) = x.c;
-    n.CasoCarico[j] = static_cast<std::int16_t>(x.casoII);
-    n.NomeSa[j] = x.nome;
+    n.SforzoNormale(1, j) = x.a, n.SforzoNormale(2, j) = x.b, n.SforzoNormale(3, j) = x.c;
+    n.CasoCarico[j] = static_cast<std::int16_t>(x.casoII), n.NomeSa[j] = x.nome;
   }
 }
 

@@ -8,42 +8,17 @@ namespace {
 Profilo Sezione(const std::string& nome, std::int16_t tipo, double h, double b, double a, double e,
                 double area) {
   Profilo p;
-  p.Nome = nome;
-  p.Tipo = tipo;
-  p.h = h;
-  p.b = b;
-  p.a = a;
-  p.e = e;
-  p.Area = area;
+  p.Nome = nome, p.Tipo = tipo, p.h = h, p.b = b, p.a = a, p.e = e, p.Area = area;
   return p;
 }
 
 Acciaio Steel(const std::string& nome, double sAmm, double sAmm40, double fy, double fy40,
               double ft, double ft40) {
-  Acciaio a;
-  a.Nome = nome;
-  a.Norma = "UNI EN 10025-2";
-  a.SAmm = sAmm;
-  a.SAmm40 = sAmm40;
-  a.fy = fy;
-  a.fy40 = fy40;
-  a.ft = ft;
-  a.ft40 = ft40;
-  a.gM = 1.05;
-  a.gMT = 1.25;
-  return a;
+  return {nome, "UNI EN 10025-2", sAmm, sAmm40, fy, fy40, ft, ft40, 1.05, 1.25};
 }
 
 Vite Classe(const std::string& nome, double sAmm, double tauAmm, double fy, double ft) {
-  Vite v;
-  v.Nome = nome;
-  v.SAmmViti = sAmm;
-  v.TauAmmViti = tauAmm;
-  v.fyViti = fy;
-  v.ftViti = ft;
-  v.fdVit = ft * 0.7;
-  v.gMViti = 1.25;
-  return v;
+  return {nome, sAmm, tauAmm, fy, ft, ft * 0.7, 1.25};
 }
 
 }  // namespace
@@ -51,15 +26,13 @@ Vite Classe(const std::string& nome, double sAmm, double tauAmm, double fy, doub
 void RiempiProfiliProva(LibreriaProfili& l) {
   int r = 0;
   l.Profili[++r] = Sezione("IPE140", 2, 140, 73, 4.7, 6.9, 1640);
-  l.Profili[++r] = Sezione("HEA200", 2, 190, 200, 6.5, 10, 5380);
-  l.NumProfili1 = r;
+  l.Profili[++r] = Sezione("HEA200", 2, 190, 200, 6.5, 10, 5380), l.NumProfili1 = r;
   l.Profili[++r] = Sezione("UPN120", 0, 120, 55, 7, 9, 1700);
   l.Profili[++r] = Sezione("UPN160", 0, 160, 65, 7.5, 10.5, 2400);
   l.Profili[++r] = Sezione("LU50x5", 1, 50, 50, 5, 5, 480);
   l.Profili[++r] = Sezione("LU60x6", 1, 60, 60, 6, 6, 691);
   l.Profili[++r] = Sezione("LU70x7", 1, 70, 70, 7, 7, 940);
-  l.Profili[++r] = Sezione("LD80x60x7", 1, 80, 60, 7, 7, 938);
-  l.NumProfiliTot = r;
+  l.Profili[++r] = Sezione("LD80x60x7", 1, 80, 60, 7, 7, 938), l.NumProfiliTot = r;
   l.NumProfili2 = r - l.NumProfili1;
 }
 
@@ -76,8 +49,7 @@ void RiempiMaterialiProva(Materiali& m) {
   m.Viti[++r] = Classe("5.6", 2400, 1700, 3000, 5000);
   m.Viti[++r] = Classe("6.8", 3000, 2100, 4800, 6000);
   m.Viti[++r] = Classe("8.8", 3700, 2600, 6490, 8000);
-  m.Viti[++r] = Classe("10.9", 5000, 3500, 9000, 10000);
-  m.NumViti = r;
+  m.Viti[++r] = Classe("10.9", 5000, 3500, 9000, 10000), m.NumViti = r;
 }
 
 SessioneProva::SessioneProva() {
@@ -89,12 +61,8 @@ SessioneProva::SessioneProva() {
 std::chrono::system_clock::time_point OraLocale(int anno, int mese, int giorno, int ora,
                                                 int minuto) {
   std::tm t{};
-  t.tm_year = anno - 1900;
-  t.tm_mon = mese - 1;
-  t.tm_mday = giorno;
-  t.tm_hour = ora;
-  t.tm_min = minuto;
-  t.tm_isdst = -1;
+  t.tm_year = anno - 1900, t.tm_mon = mese - 1, t.tm_mday = giorno, t.tm_hour = ora;
+  t.tm_min = minuto, t.tm_isdst = -1;
   return std::chrono::system_clock::from_time_t(std::mktime(&t));
 }
 

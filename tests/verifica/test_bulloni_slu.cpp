@@ -117,9 +117,7 @@ TEST(RapportoBullone, ForzaSullaMinoreResistenza) {
   };
   ProvaBulloniSLU p;
   for (const Caso& c : casi) {
-    p.r.RapportoBull(2, 5, 9) = 7;
-    p.r.FedBull(2, 5, 9) = c.FedBull;
-    p.r.FvRd(2, 5) = c.FvRd;
+    p.r.RapportoBull(2, 5, 9) = 7, p.r.FedBull(2, 5, 9) = c.FedBull, p.r.FvRd(2, 5) = c.FvRd;
     p.r.FbRd(2, 5) = c.FbRd;
     RapportoBullone(p.sessione, 2, 5, 9);
     EXPECT_DOUBLE_EQ(p.r.RapportoBull(2, 5, 9), c.atteso) << c.nome;
@@ -163,10 +161,7 @@ TEST(EsitoSLU, ResistenzaDiProgettoSecondoLoSpessore) {
   };
   const Caso casi[] = {{40, 1}, {40.5, 0}};
   ProvaBulloniSLU p;
-  p.nodo.nSollAg = 1;
-  p.r.SigProf(1, 1) = 2100;
-  p.r.SigDiff(2, 1) = -2100;
-  p.r.SigSotto[1] = -2100;
+  p.nodo.nSollAg = 1, p.r.SigProf(1, 1) = 2100, p.r.SigDiff(2, 1) = -2100, p.r.SigSotto[1] = -2100;
   // sqrt(1200^2 + 3 * 1000^2) = sqrt(4440000) = 2107.131
   p.r.SigProf(0, 1) = 1200;
   p.r.TauCorr[1] = 1000;

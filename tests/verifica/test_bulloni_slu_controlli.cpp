@@ -202,9 +202,7 @@ TEST(ControlliBulloniSLU, LimitiSuperioriSecondoLEsposizione) {
   };
   ProvaBulloniSLU p;
   for (const Caso& c : casi) {
-    p.nodo.Esposizione = c.esposizione;
-    p.nodo.Aste[1].a = c.spessore;
-    p.nodo.Fz_s = c.spessore;
+    p.nodo.Esposizione = c.esposizione, p.nodo.Aste[1].a = c.spessore, p.nodo.Fz_s = c.spessore;
     p.nodo.Ast_ins[1] = c.lunghezza;
     Disponi(p, 1, c.bulloni);
     p.piattaforma.messaggi.clear();

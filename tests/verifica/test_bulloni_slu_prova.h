@@ -10,15 +10,9 @@ namespace qf17::prova {
 // ft 3600 (3400 over 40 mm), fy 2350 (2150), gamma 1.05. Exposure 1: no upper edge limit.
 struct ProvaBulloniSLU : ProvaBulloniTA {
   ProvaBulloniSLU() {
-    nodo.vite.Nome = "8.8";
-    nodo.vite.ftViti = 8000;
-    nodo.vite.gMViti = 1.25;
-    nodo.acciaio.ft = 3600;
-    nodo.acciaio.ft40 = 3400;
-    nodo.acciaio.fy = 2350;
-    nodo.acciaio.fy40 = 2150;
-    nodo.acciaio.gM = 1.05;
-    nodo.Esposizione = 1;
+    nodo.vite.Nome = "8.8", nodo.vite.ftViti = 8000, nodo.vite.gMViti = 1.25;
+    nodo.acciaio.ft = 3600, nodo.acciaio.ft40 = 3400, nodo.acciaio.fy = 2350;
+    nodo.acciaio.fy40 = 2150, nodo.acciaio.gM = 1.05, nodo.Esposizione = 1;
   }
 };
 

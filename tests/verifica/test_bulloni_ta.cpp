@@ -154,16 +154,9 @@ TEST(BulloniTA, GruppoSenzaAreaAvvisaColNumeroDelGruppo) {
 TEST(BulloniTA, AreaBullonataPerGruppoETipo) {
   ProvaBulloniTA p;
   Profilo angolare = ProvaBulloniTA::Canale();
-  angolare.Tipo = 1;
-  angolare.h = 100;
-  angolare.e = 8;
-  angolare.dBarX = 28.5;
-  p.nodo.Aste[2] = angolare;
-  p.nodo.Ast_ins[2] = 95.5;
-  p.nodo.Fz_a = 50;
-  p.nodo.Fz_b = 40.5;
-  p.nodo.Fz_c = 60;
-  p.nodo.Fz_d = 0.25;
+  angolare.Tipo = 1, angolare.h = 100, angolare.e = 8, angolare.dBarX = 28.5;
+  p.nodo.Aste[2] = angolare, p.nodo.Ast_ins[2] = 95.5, p.nodo.Fz_a = 50, p.nodo.Fz_b = 40.5;
+  p.nodo.Fz_c = 60, p.nodo.Fz_d = 0.25;
 
   struct Caso {
     int g;

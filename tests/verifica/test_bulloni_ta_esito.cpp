@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "verifica/bulloni_ta.h"
 #include "verifica/test_bulloni_ta_prova.h"
 
@@ -36,144 +34,90 @@ TEST(CoefficienteRifollamento, RigheDellaTabella) {
 // Steel 1600 up to 40 mm, 1400 above; bolt shear 1100. One load set unless a case adds one.
 struct ProvaEsito : ProvaBulloniTA {
   ProvaEsito() {
-    nodo.acciaio.SAmm = 1600;
-    nodo.acciaio.SAmm40 = 1400;
-    nodo.vite.TauAmmViti = 1100;
+    nodo.acciaio.SAmm = 1600, nodo.acciaio.SAmm40 = 1400, nodo.vite.TauAmmViti = 1100;
     nodo.nSollAg = 1;
   }
 };
 
+// One figure written into the tables, one flag read back. Bolts: none; member A with bolts of 10
+// at x = 50 and 11: a = 11 < 1.2 * 10, k = 11, bearing limit 1600 * 11 = 17600 (with the proper
+// coefficient 1.0 it would be 1600); or chord bolts of 16 at x = 50 and 80: 50 >= 3 * 16,
+// k = 2.5, limit 4000.
+enum class Bulloni { Nessuno, AstaA, Corrente };
+enum class Cifra { Rif, Tau, Prof, Diff, Sotto, Ideale };
 struct CasoEsito {
   const char* nome;
-  std::function<void(ProvaEsito&)> prepara;
-  std::function<std::int16_t(const RisultatiVerifica&)> bandierina;
+  Bulloni bulloni;
+  std::int16_t caso;
+  double spessore;
+  Cifra cifra;
+  int g, k;
+  double valore;
   std::int16_t atteso;
+  double tauCorr = 0;  // Ideale: the chord's shear beside SigProf(0)
 };
 
 TEST(EsitoTA, LimitiDelleBandierine) {
-  using R = const RisultatiVerifica&;
-  // Member A with bolts of 10 at x = 50 and 11: a = 11 < 1.2 * 10, k = 11, bearing limit
-  // 1600 * 11 = 17600 (with the proper coefficient 1.0 it would be 1600).
-  auto membroA = [](ProvaEsito& p) {
-    p.Bullone(1, 50, 40, 10);
-    p.Bullone(1, 11, 40, 10);
-  };
-  // Chord bolts of 16 at x = 50 and 80: 50 >= 3 * 16, k = 2.5, limit 4000.
-  auto corrente = [](ProvaEsito& p) {
-    p.Bullone(0, 50, 40, 16);
-    p.Bullone(0, 80, 40, 16);
-  };
+  using enum Bulloni;
+  using enum Cifra;
   const CasoEsito casi[] = {
-      {"rifollamento = 1600 * 11",
-       [&](ProvaEsito& p) {
-         membroA(p);
-         p.r.RifBull(1, 2, 1) = 17600;
-       },
-       [](R r) { return r.OkRif(1, 1); }, 1},
-      {"rifollamento oltre 1600 * 11",
-       [&](ProvaEsito& p) {
-         membroA(p);
-         p.r.RifBull(1, 1, 1) = -17600.01;
-       },
-       [](R r) { return r.OkRif(1, 1); }, 0},
-      {"rifollamento corrente = 1600 * 2.5",
-       [&](ProvaEsito& p) {
-         corrente(p);
-         p.r.RifBull(0, 2, 1) = 4000;
-       },
-       [](R r) { return r.OkRif(0, 1); }, 1},
-      {"rifollamento corrente oltre",
-       [&](ProvaEsito& p) {
-         corrente(p);
-         p.r.RifBull(0, 2, 1) = 4000.01;
-       },
-       [](R r) { return r.OkRif(0, 1); }, 0},
-      {"taglio = 1100",
-       [&](ProvaEsito& p) {
-         membroA(p);
-         p.r.TauBull(1, 2, 1) = -1100;
-       },
-       [](R r) { return r.OkTau(1, 1); }, 1},
-      {"taglio oltre 1100",
-       [&](ProvaEsito& p) {
-         corrente(p);
-         p.r.TauBull(0, 1, 1) = 1100.01;
-       },
-       [](R r) { return r.OkTau(0, 1); }, 0},
+      {"rifollamento = 1600 * 11", AstaA, 0, 10, Rif, 1, 2, 17600, 1},
+      {"rifollamento oltre 1600 * 11", AstaA, 0, 10, Rif, 1, 1, -17600.01, 0},
+      {"rifollamento corrente = 1600 * 2.5", Corrente, 0, 10, Rif, 0, 2, 4000, 1},
+      {"rifollamento corrente oltre", Corrente, 0, 10, Rif, 0, 2, 4000.01, 0},
+      {"taglio = 1100", AstaA, 0, 10, Tau, 1, 2, -1100, 1},
+      {"taglio oltre 1100", Corrente, 0, 10, Tau, 0, 1, 1100.01, 0},
       // Load case II: 1.125 * 1600 = 1800 for the steel, the bolt shear stays 1100.
-      {"caso II profilo = 1800",
-       [](ProvaEsito& p) {
-         p.nodo.CasoCarico[1] = 1;
-         p.r.SigProf(2, 1) = -1800;
-       },
-       [](R r) { return r.OkProf(2, 1); }, 1},
-      {"caso II profilo oltre 1800",
-       [](ProvaEsito& p) {
-         p.nodo.CasoCarico[1] = 1;
-         p.r.SigProf(2, 1) = 1800.01;
-       },
-       [](R r) { return r.OkProf(2, 1); }, 0},
-      {"caso II taglio non aumenta",
-       [&](ProvaEsito& p) {
-         corrente(p);
-         p.nodo.CasoCarico[1] = 1;
-         p.r.TauBull(0, 1, 1) = 1237.5;
-       },
-       [](R r) { return r.OkTau(0, 1); }, 0},
+      {"caso II profilo = 1800", Nessuno, 1, 10, Prof, 2, 0, -1800, 1},
+      {"caso II profilo oltre 1800", Nessuno, 1, 10, Prof, 2, 0, 1800.01, 0},
+      {"caso II taglio non aumenta", Corrente, 1, 10, Tau, 0, 1, 1237.5, 0},
       // Gusset over 40 mm: 1400, and 1.125 * 1400 = 1575 in case II.
-      {"spessore 40 diffusione 1600",
-       [](ProvaEsito& p) {
-         p.nodo.Fz_s = 40;
-         p.r.SigDiff(3, 1) = 1600;
-       },
-       [](R r) { return r.OkDiff(3, 1); }, 1},
-      {"spessore 41 diffusione 1600",
-       [](ProvaEsito& p) {
-         p.nodo.Fz_s = 41;
-         p.r.SigDiff(3, 1) = 1600;
-       },
-       [](R r) { return r.OkDiff(3, 1); }, 0},
-      {"spessore 41 caso II 1575",
-       [](ProvaEsito& p) {
-         p.nodo.Fz_s = 41;
-         p.nodo.CasoCarico[1] = 2;
-         p.r.SigDiff(3, 1) = 1575;
-       },
-       [](R r) { return r.OkDiff(3, 1); }, 1},
+      {"spessore 40 diffusione 1600", Nessuno, 0, 40, Diff, 3, 0, 1600, 1},
+      {"spessore 41 diffusione 1600", Nessuno, 0, 41, Diff, 3, 0, 1600, 0},
+      {"spessore 41 caso II 1575", Nessuno, 2, 41, Diff, 3, 0, 1575, 1},
       // The flags read the stresses as they are: 1600.04 would print as 1600.0.
-      {"non arrotondato", [](ProvaEsito& p) { p.r.SigProf(1, 1) = 1600.04; },
-       [](R r) { return r.OkProf(1, 1); }, 0},
+      {"non arrotondato", Nessuno, 0, 10, Prof, 1, 0, 1600.04, 0},
       // Chord: sqrt(1000^2 + 3 * 700^2) = sqrt(2470000) = 1571.6; with 750: 1639.4.
-      {"ideale corrente 1571.6",
-       [](ProvaEsito& p) {
-         p.r.SigProf(0, 1) = 1000;
-         p.r.TauCorr[1] = 700;
-       },
-       [](R r) { return r.OkCorr[1]; }, 1},
-      {"ideale corrente 1639.4",
-       [](ProvaEsito& p) {
-         p.r.SigProf(0, 1) = 1000;
-         p.r.TauCorr[1] = -750;
-       },
-       [](R r) { return r.OkCorr[1]; }, 0},
-      {"ideale corrente = 1600", [](ProvaEsito& p) { p.r.SigProf(0, 1) = -1600; },
-       [](R r) { return r.OkCorr[1]; }, 1},
+      {"ideale corrente 1571.6", Nessuno, 0, 10, Ideale, 0, 0, 1000, 1, 700},
+      {"ideale corrente 1639.4", Nessuno, 0, 10, Ideale, 0, 0, 1000, 0, -750},
+      {"ideale corrente = 1600", Nessuno, 0, 10, Ideale, 0, 0, -1600, 1},
       // The chord's own section is judged by OkCorr only.
-      {"corrente non tocca OkProf(0)", [](ProvaEsito& p) { p.r.SigProf(0, 1) = 5000; },
-       [](R r) { return r.OkProf(0, 1); }, 1},
-      {"sotto il corrente = 1600", [](ProvaEsito& p) { p.r.SigSotto[1] = -1600; },
-       [](R r) { return r.OkSotto[1]; }, 1},
-      {"sotto il corrente oltre", [](ProvaEsito& p) { p.r.SigSotto[1] = -1600.01; },
-       [](R r) { return r.OkSotto[1]; }, 0},
+      {"corrente non tocca OkProf(0)", Nessuno, 0, 10, Prof, 0, 0, 5000, 1},
+      {"sotto il corrente = 1600", Nessuno, 0, 10, Sotto, 0, 0, -1600, 1},
+      {"sotto il corrente oltre", Nessuno, 0, 10, Sotto, 0, 0, -1600.01, 0},
       // A group without bolts tests none of the old values its table holds.
-      {"gruppo vuoto", [](ProvaEsito& p) { p.r.TauBull(2, 1, 1) = 99999; },
-       [](R r) { return r.OkTau(2, 1); }, 1},
+      {"gruppo vuoto", Nessuno, 0, 10, Tau, 2, 1, 99999, 1},
   };
   for (const CasoEsito& c : casi) {
     ProvaEsito p;
-    c.prepara(p);
+    RisultatiVerifica& r = p.r;
+    if (c.bulloni == AstaA) p.Bullone(1, 50, 40, 10), p.Bullone(1, 11, 40, 10);
+    if (c.bulloni == Corrente) p.Bullone(0, 50, 40, 16), p.Bullone(0, 80, 40, 16);
+    p.nodo.CasoCarico[1] = c.caso;
+    p.nodo.Fz_s = c.spessore;
+    std::int16_t* bandierina = nullptr;
+    switch (c.cifra) {
+      case Rif:
+        r.RifBull(c.g, c.k, 1) = c.valore, bandierina = &r.OkRif(c.g, 1);
+        break;
+      case Tau:
+        r.TauBull(c.g, c.k, 1) = c.valore, bandierina = &r.OkTau(c.g, 1);
+        break;
+      case Prof:
+        r.SigProf(c.g, 1) = c.valore, bandierina = &r.OkProf(c.g, 1);
+        break;
+      case Diff:
+        r.SigDiff(c.g, 1) = c.valore, bandierina = &r.OkDiff(c.g, 1);
+        break;
+      case Sotto:
+        r.SigSotto[1] = c.valore, bandierina = &r.OkSotto[1];
+        break;
+      case Ideale:
+        r.SigProf(0, 1) = c.valore, r.TauCorr[1] = c.tauCorr, bandierina = &r.OkCorr[1];
+        break;
+    }
     EsitoTA(p.sessione);
-    EXPECT_EQ(c.bandierina(p.r), c.atteso) << c.nome;
+    EXPECT_EQ(*bandierina, c.atteso) << c.nome;
   }
 }
 

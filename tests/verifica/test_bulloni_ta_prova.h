@@ -27,13 +27,7 @@ struct ProvaBulloniTA : SessioneVerifica {
 
   static Profilo Canale() {
     Profilo p;
-    p.Nome = "UPN120";
-    p.Tipo = 0;
-    p.h = 120;
-    p.b = 55;
-    p.e = 10;
-    p.a = 6;
-    p.dBarX = 60;
+    p.Nome = "UPN120", p.Tipo = 0, p.h = 120, p.b = 55, p.e = 10, p.a = 6, p.dBarX = 60;
     return p;
   }
 };

@@ -191,9 +191,7 @@ void Riempi(Generatore& gen, prova::SessioneVerifica& p, int g, const Punti& pun
   Nodo& n = p.nodo;
   p.sessione.opzioni[25] = gen.Uno({-1.0, 0.0, 1.0, 2.0});
   p.sessione.opzioni[26] = gen.Uno({0.0, 1.0});
-  n.Fz_a = gen.Reale(0, 200);
-  n.Fz_b = gen.Reale(0, 200);
-  n.Fz_c = gen.Reale(0, 200);
+  n.Fz_a = gen.Reale(0, 200), n.Fz_b = gen.Reale(0, 200), n.Fz_c = gen.Reale(0, 200);
   n.Fz_d = gen.Reale(0, 200);
   n.Fz_s = gen.Uno({10.0, 12.0, 50.0});
   n.Corrente = gen.Sezione();

@@ -53,11 +53,8 @@ class NodoCasuale {
 
   Profilo Sezione() {
     Profilo p;
-    p.Nome = "P" + std::to_string(Intero(1, 99));
-    p.h = Reale(30, 200);
-    p.b = Reale(30, 200);
-    p.a = Reale(3, 15);
-    p.e = Reale(3, 15);
+    p.Nome = "P" + std::to_string(Intero(1, 99)), p.h = Reale(30, 200), p.b = Reale(30, 200);
+    p.a = Reale(3, 15), p.e = Reale(3, 15);
     // Small areas and second moments bring the net area messages.
     p.Area = Uno({Reale(50, 400), Reale(400, 3000)});
     p.dBarY = Reale(5, 50);

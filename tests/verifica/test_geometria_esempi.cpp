@@ -100,30 +100,5 @@ TEST_F(GeometriaEsempi, IncrociSulContornoEdEstremiNelFazzoletto) {
   }
 }
 
-TEST_F(GeometriaEsempi, LaSecondaEsecuzioneNonCambiaNulla) {
-  for (const auto& e : esempi_) {
-    SCOPED_TRACE(e.file);
-    s_.nodo = e.nodo;
-    GeometriaNodo(s_);
-    const Nodo prima = s_.nodo;
-    const GeometriaFazzoletto geomPrima = s_.geometria;
-    GeometriaNodo(s_);
-    for (int r = 1; r <= 6; ++r) {
-      EXPECT_EQ(s_.nodo.Ast_flag[r], prima.Ast_flag[r]);
-      for (int j = 1; j <= 2; ++j) {
-        const Saldatura& a = s_.nodo.Saldature(r, j);
-        const Saldatura& b = prima.Saldature(r, j);
-        EXPECT_EQ(a.Quota, b.Quota);
-        EXPECT_EQ(a.Lato, b.Lato);
-        for (int k = 1; k <= 5; ++k) {
-          EXPECT_EQ(a.XS[k], b.XS[k]) << r << " " << j << " " << k;
-          EXPECT_EQ(a.YS[k], b.YS[k]) << r << " " << j << " " << k;
-        }
-      }
-    }
-    for (int i = 1; i <= 3; ++i) EXPECT_EQ(s_.geometria.Beff[i], geomPrima.Beff[i]);
-  }
-}
-
 }  // namespace
 }  // namespace qf17

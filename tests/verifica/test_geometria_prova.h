@@ -23,10 +23,7 @@ inline const double kW100 = 57.73502691896258;
 // side 5 x = -300, side 6 y = -50.
 struct NodoGeometria {
   NodoGeometria() {
-    n.Corrente.Nome = "C100";
-    n.Corrente.h = 100;
-    n.Corrente.dBarX = 20;
-    n.Corrente.Tipo = 0;
+    n.Corrente.Nome = "C100", n.Corrente.h = 100, n.Corrente.dBarX = 20, n.Corrente.Tipo = 0;
     for (int i = 0; i <= 6; ++i) n.Ast_flag[i] = 0;
     n.Fz_a = 100, n.Fz_b = 200, n.Fz_c = 200, n.Fz_d = 100;
     n.Fz_e = 100, n.Fz_f = 100, n.Fz_g = 100, n.Fz_h = 100;
@@ -35,16 +32,10 @@ struct NodoGeometria {
   // Member i at `gradi`, section h 60 with its centroid 15 from the back, inserted 100.
   void Asta(int i, double gradi, int lato, AstModo modo = AstModo::Singola, double h = 60,
             double dx = 15) {
-    n.Aste[i].Nome = "L60";
-    n.Aste[i].h = h;
-    n.Aste[i].dBarX = dx;
-    n.Aste[i].Tipo = 1;
-    n.Ast_flag[i] = 1;
-    n.Ast_modo[i] = static_cast<std::int16_t>(modo);
-    n.Ast_lato[i] = static_cast<std::int16_t>(lato);
-    n.Ast_teta[i] = GradiInRadianti(gradi);
-    n.Ast_coeff[i] = 1;
-    n.Ast_ins[i] = 100;
+    n.Aste[i].Nome = "L60", n.Aste[i].h = h, n.Aste[i].dBarX = dx, n.Aste[i].Tipo = 1;
+    n.Ast_flag[i] = 1, n.Ast_modo[i] = static_cast<std::int16_t>(modo);
+    n.Ast_lato[i] = static_cast<std::int16_t>(lato), n.Ast_teta[i] = GradiInRadianti(gradi);
+    n.Ast_coeff[i] = 1, n.Ast_ins[i] = 100;
   }
   void Esegui() { GeometriaNodo(s); }
   const LatoFazzoletto& Lato(int k) const { return s.geometria.LatiFazzoletto[k]; }

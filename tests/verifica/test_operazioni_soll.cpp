@@ -37,11 +37,8 @@ Nodo NodoConSoll(std::array<int, 3> presenti, const std::vector<Riga>& righe) {
   n.nSollAg = 0;
   for (const Riga& r : righe) {
     const int j = ++n.nSollAg;
-    n.SforzoNormale(1, j) = r.a;
-    n.SforzoNormale(2, j) = r.b;
-    n.SforzoNormale(3, j) = r.c;
-    n.CasoCarico[j] = static_cast<std::int16_t>(r.caso);
-    n.NomeSa[j] = r.nome;
+    n.SforzoNormale(1, j) = r.a, n.SforzoNormale(2, j) = r.b, n.SforzoNormale(3, j) = r.c;
+    n.CasoCarico[j] = static_cast<std::int16_t>(r.caso), n.NomeSa[j] = r.nome;
   }
   return n;
 }

@@ -97,12 +97,8 @@ TEST(Profili, FilaSecondoIlForoDellaSezione) {
 // An I2 of 0 silences any member, even a double one. One message per bolt and per set.
 TEST(Profili, MomentoNettoNullo) {
   ProvaSezioni p;
-  p.nodo.Aste[1].I2 = 100;
-  p.nodo.Aste[2].I2 = 100;
-  p.nodo.Ast_modo[2] = 1;
-  p.nodo.Aste[3].I2 = 0;
-  p.nodo.Ast_modo[3] = 1;
-  p.nodo.Aste[3].Nome = "LU70x7";
+  p.nodo.Aste[1].I2 = 100, p.nodo.Aste[2].I2 = 100, p.nodo.Ast_modo[2] = 1, p.nodo.Aste[3].I2 = 0;
+  p.nodo.Ast_modo[3] = 1, p.nodo.Aste[3].Nome = "LU70x7";
   for (int i = 1; i <= 3; ++i) {
     p.Bullone(i, 0, 0);
     p.Bullone(i, 100, 0);

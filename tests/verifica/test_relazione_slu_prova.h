@@ -28,13 +28,8 @@ class RelazioneSLUPiccola : public ::testing::Test {
     n.TipoVer = 1;
     n.nBull[1] = 3;
     BulloneRelazione(n, 1, 3, 150, 25, 16);
-    n.acciaio.Nome = "S 275 JR";
-    n.acciaio.fy = 2351.5625;
-    n.acciaio.fy40 = 2152.1875;
-    n.acciaio.gM = 1.25;
-    n.vite.Nome = "8.8";
-    n.vite.ftViti = 8000;
-    n.vite.gMViti = 1.25;
+    n.acciaio.Nome = "S 275 JR", n.acciaio.fy = 2351.5625, n.acciaio.fy40 = 2152.1875;
+    n.acciaio.gM = 1.25, n.vite.Nome = "8.8", n.vite.ftViti = 8000, n.vite.gMViti = 1.25;
     RiempiRisultati();
   }
 
@@ -102,6 +97,12 @@ class RelazioneSLUPiccola : public ::testing::Test {
     r.RapportoBull(1, 1, 2) = 0.9;
     r.RapportoBull(2, 1, 2) = 0.9;
     r.OkDiff(1, 2) = r.OkProf(2, 2) = 1;
+  }
+
+  static constexpr const char* kSottoFallita = "     500.4|   18812.5| NO|\r\n";
+  void FallisceSoloSottoDelSet1(bool fallito) {
+    Set2Verificato();
+    s.Risultati().OkSotto[1] = fallito ? 0 : 1;
   }
 
   bool Esegui() { return RelazioneSLU(s, verdetti); }

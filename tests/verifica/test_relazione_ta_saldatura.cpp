@@ -13,13 +13,9 @@ class RelazioneTASaldatura : public RelazioneTAPiccola {
  protected:
   RelazioneTASaldatura() {
     Nodo& n = s.nodo;
-    n.Corrente = ProfiloRelazione("HEA200", 2, 190, 200, 6.5, 10);
-    n.nBull[0] = 0;
-    n.Saldature(4, 1).Nome = "S1";
-    n.Saldature(4, 1).Sld_L = 300;
-    n.Lato_Sald = 5;
-    n.acciaio.SAmm = 1600;
-    n.nSollAg = 1;
+    n.Corrente = ProfiloRelazione("HEA200", 2, 190, 200, 6.5, 10), n.nBull[0] = 0;
+    n.Saldature(4, 1).Nome = "S1", n.Saldature(4, 1).Sld_L = 300, n.Lato_Sald = 5;
+    n.acciaio.SAmm = 1600, n.nSollAg = 1;
   }
   void Sollecita(double tauPar) {
     Saldatura& sald = s.nodo.Saldature(4, 1);

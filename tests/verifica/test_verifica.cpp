@@ -30,10 +30,7 @@ class Verifica_ : public ::testing::Test {
     n.Ast_flag[3] = n.Ast_flag[6] = 0;
     n.nBull[1] = 2;
     // An angle's line of action lies at h - dBarX = 60 from the corner of the bolted area.
-    n.xBull(1, 1) = 30;
-    n.yBull(1, 1) = 60;
-    n.xBull(1, 2) = 90;
-    n.yBull(1, 2) = 60;
+    n.xBull(1, 1) = 30, n.yBull(1, 1) = 60, n.xBull(1, 2) = 90, n.yBull(1, 2) = 60;
     n.FiBull(1, 1) = n.FiBull(1, 2) = 16;
     n.nSollAg = 1;
     n.SforzoNormale(1, 1) = 1000;
