@@ -66,6 +66,7 @@ bool ApriNodoDaFile(Sessione& sessione, const std::filesystem::path& file) {
   letto.NomeFileNodo = NomeDaPercorso(file);
   RisolviNomi(sessione, letto);
   sessione.nodo = std::move(letto);
+  sessione.nodo.Cor_tetaCasella = sessione.nodo.Cor_teta;
   ControllaMateriali(sessione);
   RiempiListaAcciai(sessione, sessione.nodo.acciaio.Nome);
   return true;
