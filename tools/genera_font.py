@@ -15,7 +15,8 @@ it is after narrowing. Glyphs taller than the cell (brackets, braces) are squeez
 the baseline, and glyphs with too many strokes are simplified.
 
 Besides printable ASCII, the font holds the Italian accented vowels (base letter and an
-accent stroke) and the degree sign (a small circle of strokes).
+accent stroke) and the degree sign (a small circle of strokes). The "]" is drawn as the
+diameter sign, a circle crossed by a slash: the family writes that sign as "]" ("Fori ]20.5").
 """
 
 import argparse
@@ -160,6 +161,22 @@ def cerchietto(sinistra, destra):
               -9 + raggio * math.sin(2 * math.pi * k / lati)) for k in range(lati + 1)]]
 
 
+def diametro(sinistra, destra):
+    """The diameter sign drawn for "]", the family's diameter character: a circle 0.6 of the
+    capital height across, centred half way up the capitals, crossed at 45 degrees by a slash
+    that passes it at both ends. Round and at 45 degrees for a text as wide as it is high, the
+    sizes of the installation's options."""
+    centro = (sinistra + destra) / 2.0
+    meta_y = H_BASE - H_MAIUSCOLE / 2.0
+    # Hershey units across that draw as long as one unit upward, after the narrowing.
+    tondo = (SCALA_Y / ALTEZZA_MAIUSCOLE) / (SCALA_X * (1 - STRIZIONE / 100.0) / 99.0)
+    raggio, lati, barra = 0.3 * H_MAIUSCOLE, 16, 0.3 * H_MAIUSCOLE
+    cerchio = [(centro + tondo * raggio * math.cos(2 * math.pi * k / lati),
+                meta_y + raggio * math.sin(2 * math.pi * k / lati)) for k in range(lati + 1)]
+    return [cerchio, [(centro - tondo * barra, meta_y + barra),
+                      (centro + tondo * barra, meta_y - barra)]]
+
+
 def riga_glifo(byte, segmenti_glifo):
     testo = bytes([byte])
     for (x1, y1), (x2, y2) in segmenti_glifo:
@@ -176,6 +193,8 @@ def genera(percorso_hershey):
     righe = [b"%d" % STRIZIONE]
     for codice in range(32, 127):
         sinistra, destra, tratti = ascii_[codice]
+        if codice == ord("]"):  # the family writes the diameter sign as "]"
+            tratti = diametro(sinistra, destra)
         righe.append(riga_glifo(codice, glifo(nella_cella(sinistra, destra, tratti))))
     accentate = [("à", "a", False), ("è", "e", False), ("é", "e", True), ("ì", "i", False),
                  ("ò", "o", False), ("ù", "u", False)]

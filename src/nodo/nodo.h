@@ -83,6 +83,10 @@ struct Nodo {
   std::int16_t TipoVer = 0;
 
   // Run-time fields, never saved.
+  // The chord's angle as the panel's angle box holds it (radians): what the engineer entered or
+  // the node file gave, written when the panel is refreshed from the node. The geometry turns
+  // Cor_teta to the half turn nearest zero and leaves this alone; the reports print it.
+  double Cor_tetaCasella = 0;
   std::string NomeFileNodo = "Nuovo";
   std::string DirLavoro;
   std::int16_t GruppoEditor = 0;

@@ -74,6 +74,7 @@ bool ApriNodoDaFile(Sessione& sessione, const std::filesystem::path& file) {
   const bool trovati = RisolviNomi(sessione, letto);
   sessione.nodo = std::move(letto);
   sessione.NomiMancanti = !trovati;
+  sessione.nodo.Cor_tetaCasella = sessione.nodo.Cor_teta;
   ControllaMateriali(sessione);
   RiempiListaAcciai(sessione, sessione.nodo.acciaio.Nome);
   return true;

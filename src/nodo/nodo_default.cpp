@@ -57,6 +57,7 @@ void NodoDefault(Sessione& sessione) {
   for (int g = 0; g <= 3; ++g) n.nBull[g] = 0;
   n.NumNodi = 0;
   n.DisegnoGenerato = false;
+  n.Cor_tetaCasella = n.Cor_teta;
 }
 
 std::string ParolaModo(int astModo) {

@@ -199,19 +199,32 @@ TEST_F(Composizione, PostoDeiDettagli) {
   }
 }
 
-// A welded chord: no weld table and no chord strip detail; a bolted one has both.
-TEST_F(Composizione, CorrenteSaldatoSenzaTabellaSaldature) {
+// The one weld of the model joins the gusset to a chord of kind 2 (HEASALD, HEA200): its marks
+// along the plate's edge on the chord and its table, numbered 1, its length the plate's along
+// the chord (150 + 300 + 300 + 150) and its leg 7. The weld takes 900 / 7 + 0.5 -> 129 steps:
+// 128 ticks inside, 2 end ticks and the closing line. A bolted chord (ANGUPN, UPN160) has
+// neither, and has its strip detail instead.
+TEST_F(Composizione, SaldaturaSoloSulCorrenteSaldato) {
   struct Caso {
     const char* file;
-    bool bullonato;
+    bool saldato;
   };
-  for (const Caso& c : {Caso{"HEASALD.qf7", false}, Caso{"ANGUPN.qf7", true}}) {
+  for (const Caso& c : {Caso{"HEASALD.qf7", true}, Caso{"ANGUPN.qf7", false}}) {
     SCOPED_TRACE(c.file);
+    s_.opzioni[20] = 7;  // the weld's colour, used by nothing else
     Componi(c.file);
-    EXPECT_EQ(Chiamata("Sald.") != nullptr, c.bullonato);
-    EXPECT_EQ(Chiamata("PARTICOLARE FORATURA DEL CORRENTE") != nullptr, c.bullonato);
-    EXPECT_NE(Chiamata("N. bull."), nullptr);
-    EXPECT_NE(Chiamata("N. fazz."), nullptr);
+    const std::vector<std::string> tabella = {"Sald.", "lungh", "lato", "1", "900", "7"};
+    const std::vector<std::string> celle = t_->TestiDistinta();
+    const bool conTabella =
+        std::search(celle.begin(), celle.end(), tabella.begin(), tabella.end()) != celle.end();
+    EXPECT_EQ(conTabella, c.saldato);
+    EXPECT_EQ(Chiamata("Sald.") != nullptr, c.saldato);
+    int tacche = 0;
+    for (int i = 0; i < s_.disegno.NumLinee; ++i) {
+      tacche += s_.disegno.Tabelle().LinColore[i] == 7 ? 1 : 0;
+    }
+    EXPECT_EQ(tacche, c.saldato ? 131 : 0);
+    EXPECT_EQ(Chiamata("PARTICOLARE FORATURA DEL CORRENTE") != nullptr, !c.saldato);
   }
 }
 
@@ -246,11 +259,17 @@ TEST_F(Composizione, NumeriDelDettaglioComeLaTabella) {
     for (const ChiamataTavola& c : t_->Di(Richiesta::Testo)) {
       if (c.classe != ClasseTesto::Quote || c.origineY != titolo->origineY) continue;
       SCOPED_TRACE(c.testo);
-      // The number stands at the upper right of its hole's circle.
+      // The number's hole is the one nearest to the number's box.
+      const double x1 = c.x1 + c.origineX, y1 = c.y1 + c.origineY;
+      const double x2 = x1 + static_cast<double>(c.testo.size()) * t_->Larghezza(c.classe);
+      const double y2 = y1 + t_->Altezza(c.classe);
       const prova::CerchioLetto* foro = nullptr;
+      double vicino = 1e300;
       for (const auto& f : cerchi) {
-        if (std::abs(f.centro.x + f.raggio - (c.x1 + c.origineX)) < 1e-6 &&
-            std::abs(f.centro.y + f.raggio - (c.y1 + c.origineY)) < 1e-6) {
+        const double dx = std::max({x1 - f.centro.x, 0.0, f.centro.x - x2});
+        const double dy = std::max({y1 - f.centro.y, 0.0, f.centro.y - y2});
+        if (std::hypot(dx, dy) - f.raggio < vicino) {
+          vicino = std::hypot(dx, dy) - f.raggio;
           foro = &f;
         }
       }

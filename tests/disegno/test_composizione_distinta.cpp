@@ -69,10 +69,7 @@ TEST_F(DistintaTabelle, QuattroTabelleEPoiLeCoordinate) {
       // Length 150 + 250 + 250 + 150; height max(100 + 150, 100 + 150) + 160.
       {"N. fazz.", "l", "h", "s"},
       {"1", "800", "410", "10"},
-      // Each weld of the member with its insertion and the leg.
-      {"Sald.", "lungh", "lato"},
-      {"A1", "120", "6"},
-      {"A2", "120", "6"},
+      // The channel chord is bolted: no weld, no weld table.
       // Holes 20 + 0.5 and 16 + 0.5.
       {"N. bull.", "fi", "Classe", "] Foro"},
       {"2", "20", "8.8", "20.5"},
@@ -98,8 +95,9 @@ TEST_F(DistintaTabelle, QuattroTabelleEPoiLeCoordinate) {
   }
 }
 
-// Tables 2 rows apart: table 1 has 3 rows (to -45), table 2 starts at -75 and has 2, table 3
-// at -135 with 3, table 4 at -210 with 3, the coordinates at -285 with 5, down to -360.
+// Tables 2 rows apart: table 1 has 3 rows (to -45), table 2 starts at -75 and has 2, the bolts
+// (no weld table on a bolted chord) at -135 with 3, the coordinates at -210 with 5, down to
+// -285.
 TEST_F(DistintaTabelle, PostoDelleCelle) {
   Disegna(0);
   struct Cella {
@@ -108,15 +106,15 @@ TEST_F(DistintaTabelle, PostoDelleCelle) {
   };
   // Table 1: "Prof." (6 + 2) x 10 = 80 wide, "num." 60, the four sizes raised to 100 by the
   // member row. Tables 2 to 5: longest text + 2 characters ("s" + 1): "N. fazz." 10, "800" 5,
-  // "s" 3; "Sald." 7; "N. bull." 10, "fi" 4, "Classe" 8, "] Foro" 8; "n°" 4, "-300" 6, "-49.5"
+  // "s" 3; "N. bull." 10, "fi" 4, "Classe" 8, "] Foro" 8; "n°" 4, "-300" 6, "-49.5"
   // 7, "] Foro" 8.
   const Cella attese[] = {
       {"Prof.", 0, 80, -15},      {"num.", 80, 140, -15},     {"h", 140, 240, -15},
       {"e", 440, 540, -15},       {"LU70x7", 0, 80, -45},     {"N. fazz.", 0, 100, -90},
       {"l", 100, 150, -90},       {"s", 200, 230, -90},       {"10", 200, 230, -105},
-      {"Sald.", 0, 70, -150},     {"A2", 0, 70, -180},        {"N. bull.", 0, 100, -225},
-      {"] Foro", 220, 300, -225}, {"16.5", 220, 300, -255},   {"n°", 0, 40, -300},
-      {"-49.5", 100, 170, -330},  {"] Foro", 170, 250, -300}, {"-300", 40, 100, -315},
+      {"N. bull.", 0, 100, -150}, {"] Foro", 220, 300, -150}, {"16.5", 220, 300, -180},
+      {"n°", 0, 40, -225},        {"-49.5", 100, 170, -255},  {"] Foro", 170, 250, -225},
+      {"-300", 40, 100, -240},
   };
   const auto celle = t_.Di(Richiesta::TestoCentrato);
   for (const Cella& a : attese) {
@@ -134,7 +132,7 @@ TEST_F(DistintaTabelle, PostoDelleCelle) {
     }
     EXPECT_TRUE(trovata);
   }
-  EXPECT_DOUBLE_EQ(fondo_, -360);
+  EXPECT_DOUBLE_EQ(fondo_, -285);
 }
 
 // The ruling: one line for each row boundary and each column boundary, in the section colour.
@@ -160,8 +158,9 @@ TEST_F(DistintaTabelle, Griglia) {
   }
 }
 
-// A welded chord: one profile, no weld table, the gusset's height without the chord's, and no
-// chord bolts among the holes even when the group still holds some.
+// A welded chord: one profile, the gusset's height without the chord's, the weld table with the
+// one weld of the joint (numbered 1, the plate's length along the chord 150 + 250 + 250 + 150,
+// the leg 6), and no chord bolts among the holes even when the group still holds some.
 TEST_F(DistintaTabelle, CorrenteSaldato) {
   s_.nodo.Corrente.Tipo = 2;
   s_.nodo.Corrente.Nome = "HEA160";
@@ -172,6 +171,8 @@ TEST_F(DistintaTabelle, CorrenteSaldato) {
       {"LU70x7", "1", "70", "70", "7", "7"},
       {"N. fazz.", "l", "h", "s"},
       {"1", "800", "250", "10"},
+      {"Sald.", "lungh", "lato"},
+      {"1", "800", "6"},
       {"N. bull.", "fi", "Classe", "] Foro"},
       {"2", "16", "8.8", "16.5"},
   };

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <string>
@@ -14,6 +15,8 @@
 #include "disegno/esecutivo/fazzoletto_disegno.h"
 #include "disegno/esecutivo/fazzoletto_interno.h"
 #include "disegno/esecutivo/stato_esecutivo.h"
+#include "nodo/esempi_nodo.h"
+#include "nodo/file_nodo.h"
 #include "piattaforma/piattaforma_registrata.h"
 #include "verifica/geometria.h"
 
@@ -270,6 +273,56 @@ TEST_F(FazzolettoDisegno, TracceDelleAste) {
       }
     }
     EXPECT_EQ(trovati, 1) << t.a.x << " " << t.a.y << " - " << t.b.x << " " << t.b.y;
+  }
+}
+
+// FITTO (beside the golden sheets) has M12 holes (12.5) 28 apart in rows 28 apart on the chord
+// and on member B: a number written at a fixed corner of its hole would stand nearer the next
+// hole than its own. With the holes numbered for the table, at the multipliers 1 and 2, every
+// number's box (its characters' cells, one text height up from its baseline) keeps clear of
+// every hole and stands nearer to its own hole than to any other; the holes are the detail's
+// circles, drawn in the order of the numbers.
+TEST(FazzolettoNumeri, GruppoFittoOgniNumeroPressoIlSuoForo) {
+  for (const double k : {1.0, 2.0}) {
+    SCOPED_TRACE(k);
+    PiattaformaRegistrata p;
+    Sessione s{p};
+    ASSERT_TRUE(prova::CaricaLibrerieInstallazione(s));
+    const auto file = std::filesystem::path(QF17_DATI_TEST) / "disegno" / "dati" / "FITTO.qf7";
+    ASSERT_TRUE(ApriNodoDaFile(s, file));
+    s.opzioni[21] = k;
+    prova::PreparaDisegno(s);
+    GeometriaNodo(s);
+    prova::TavolaComposizione t{s};
+    auto stato = std::make_unique<StatoEsecutivo>();
+    stato->ModoForiFazzoletto = 0;
+    NumeraFori(s, *stato);
+    DettaglioFazzoletto(t, *stato);
+
+    const std::vector<prova::CerchioLetto> fori = prova::Cerchi(s.disegno);
+    std::vector<ChiamataTavola> numeri;
+    for (const ChiamataTavola& c : t.Di(Richiesta::Testo)) {
+      if (c.classe == ClasseTesto::Quote) numeri.push_back(c);
+    }
+    ASSERT_EQ(fori.size(), 53u);
+    ASSERT_EQ(numeri.size(), fori.size());
+    const double w = t.Larghezza(ClasseTesto::Quote), h = t.Altezza(ClasseTesto::Quote);
+    for (const ChiamataTavola& c : numeri) {
+      SCOPED_TRACE(c.testo);
+      const auto proprio = static_cast<std::size_t>(std::stoi(c.testo) - 1);
+      const double x2 = c.x1 + static_cast<double>(c.testo.size()) * w, y2 = c.y1 + h;
+      auto margine = [&](const prova::CerchioLetto& f) {
+        const double dx = std::max({c.x1 - f.centro.x, 0.0, f.centro.x - x2});
+        const double dy = std::max({c.y1 - f.centro.y, 0.0, f.centro.y - y2});
+        return std::hypot(dx, dy) - f.raggio;
+      };
+      const double mio = margine(fori[proprio]);
+      EXPECT_GT(mio, 0);
+      for (std::size_t j = 0; j < fori.size(); ++j) {
+        if (j == proprio) continue;
+        EXPECT_GT(margine(fori[j]), mio) << "hole " << j + 1;
+      }
+    }
   }
 }
 

@@ -174,5 +174,43 @@ TEST_F(FontTest, IlFontDellInstallazioneHaTuttiICaratteri) {
             *std::max_element(ye.begin(), ye.begin() + font_->FontNumPunti['e']) + 5);
 }
 
+// The family writes the diameter sign as "]" ("Fori ]20.5"), and the installation's font draws
+// it so: a ring of 16 strokes closed on itself and a slash. Drawn as wide as high (the
+// installation's text sizes), 10 by 10 from the origin, the ring is round, 0.3 of the height in
+// radius, centred in the character's cell half way up the capitals (5, 5); the slash rises to
+// the right at 45 degrees through that centre and passes the ring at both ends.
+TEST_F(FontTest, LaParentesiChiusaEIlSegnoDiDiametro) {
+  const fs::path file = fs::path(QF17_SORGENTI) / "installazione" / "progra" / "font.001";
+  ASSERT_TRUE(LeggiFont(*font_, file));
+  std::vector<Tratto> tratti = TrattiTesto(*font_, "]", 0, 0, 0, 10, 10);
+  ASSERT_EQ(tratti.size(), 17u);
+  auto lunghezza = [](const Tratto& t) { return std::hypot(t.x2 - t.x1, t.y2 - t.y1); };
+  const auto piuLungo = std::max_element(
+      tratti.begin(), tratti.end(),
+      [&](const Tratto& a, const Tratto& b) { return lunghezza(a) < lunghezza(b); });
+  const Tratto barra = *piuLungo;
+  tratti.erase(piuLungo);
+
+  double cx = 0, cy = 0;
+  for (const Tratto& t : tratti) cx += t.x1 / 16, cy += t.y1 / 16;
+  EXPECT_NEAR(cx, 5, 0.05);
+  EXPECT_NEAR(cy, 5, 0.05);
+  for (const Tratto& t : tratti) {
+    EXPECT_NEAR(std::hypot(t.x1 - cx, t.y1 - cy), 3, 0.1);
+    // Each stroke ends where another begins: the ring is closed.
+    EXPECT_EQ(std::count_if(tratti.begin(), tratti.end(),
+                            [&](const Tratto& u) { return u.x1 == t.x2 && u.y1 == t.y2; }),
+              1);
+  }
+  const double dx = barra.x2 - barra.x1, dy = barra.y2 - barra.y1;
+  EXPECT_GT(dx * dy, 0) << "rises to the right";
+  EXPECT_NEAR(std::abs(dy / dx), 1, 0.05);
+  const double dalCentro =
+      std::abs(dy * (cx - barra.x1) - dx * (cy - barra.y1)) / std::hypot(dx, dy);
+  EXPECT_LT(dalCentro, 0.1);
+  EXPECT_GT(std::hypot(barra.x1 - cx, barra.y1 - cy), 3.5);
+  EXPECT_GT(std::hypot(barra.x2 - cx, barra.y2 - cy), 3.5);
+}
+
 }  // namespace
 }  // namespace qf17

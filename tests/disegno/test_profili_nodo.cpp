@@ -116,6 +116,7 @@ TEST(ProfiliNodo, ContorniDiFazzolettoAstaECorrente) {
 
 TEST(ProfiliNodo, NessunTrattoDisegnatoDueVolte) {
   NodoVista v;
+  v.n.Corrente.Tipo = 2;
   v.Disegna();
   // The weld's end ticks stand on the plate's square ends, in the weld's own colour: left out.
   std::vector<LineaLetta> linee;
@@ -132,7 +133,7 @@ TEST(ProfiliNodo, NessunTrattoDisegnatoDueVolte) {
   }
 }
 
-TEST(ProfiliNodo, BulloniAssiEtichettaSaldaturaEdEstensioni) {
+TEST(ProfiliNodo, BulloniAssiEtichettaEdEstensioni) {
   NodoVista v;
   v.Disegna();
   // Holes: the chord's at (150 - 300, -40 + 30); the member's from its cut (-15, -105): 60 - 20
@@ -172,23 +173,32 @@ TEST(ProfiliNodo, BulloniAssiEtichettaSaldaturaEdEstensioni) {
   EXPECT_NEAR(etichette[0].distanza, 20, 1e-9);
   EXPECT_EQ(etichette[0].colore, 1);
 
-  // The weld along side 6, 400 long with a leg of 8: 50 steps, 49 ticks inside, the two end
-  // ticks and the closing line 8 below the edge, on the gusset's side.
-  int saldatura = 0;
-  bool chiusura = false;
-  for (const auto& l : prova::Linee(v.s)) {
-    if (l.colore != 7) continue;
-    ++saldatura;
-    chiusura = chiusura || (Vicini(l.a, {-300, -58}) && Vicini(l.b, {100, -58}));
-  }
-  EXPECT_EQ(saldatura, 52);
-  EXPECT_TRUE(chiusura);
-
   // Extents: the chord's axis at both ends, the chord's top face, the member's axis at the bottom.
   EXPECT_NEAR(v.stato.XminN, -410, 1e-9);
   EXPECT_NEAR(v.stato.XmaxN, 300, 1e-9);
   EXPECT_NEAR(v.stato.YminN, -515, 1e-9);
   EXPECT_NEAR(v.stato.YmaxN, 50, 1e-9);
+}
+
+// Only a chord of kind 2 is welded to the gusset: the weld along side 6, 400 long with a leg of
+// 8, has 50 steps, 49 ticks inside, the two end ticks and the closing line 8 below the edge, on
+// the gusset's side. The bolted channel has no weld mark.
+TEST(ProfiliNodo, SaldaturaSoloSulCorrenteSaldato) {
+  for (const std::int16_t tipo : {2, 0}) {
+    SCOPED_TRACE(tipo);
+    NodoVista v;
+    v.n.Corrente.Tipo = tipo;
+    v.Disegna();
+    int saldatura = 0;
+    bool chiusura = false;
+    for (const auto& l : prova::Linee(v.s)) {
+      if (l.colore != 7) continue;
+      ++saldatura;
+      chiusura = chiusura || (Vicini(l.a, {-300, -58}) && Vicini(l.b, {100, -58}));
+    }
+    EXPECT_EQ(saldatura, tipo == 2 ? 52 : 0);
+    EXPECT_EQ(chiusura, tipo == 2);
+  }
 }
 
 TEST(ProfiliNodo, IlMoltiplicatoreDeiParticolariNonToccaLaVista) {

@@ -170,11 +170,13 @@
 
 #include <cmath>
 #include <filesystem>
+#include <fstream>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "librerie/materiali.h"
+#include "nodo/file_nodo.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
 #include "supporto/cartella_prova.h"
@@ -514,6 +516,51 @@ TEST_F(CambioMetodoEsempio, OgniMetodoTieneIlSuoAcciaio) {
   // per limit-state run.
   for (const auto& m : p.messaggi) EXPECT_EQ(m.titolo, "ATTENZIONE!") << m.testo;
   EXPECT_EQ(p.messaggi.size(), 9u);
+}
+
+class AngoloCorrenteEsempio : public prova::EsempioInLavoro, public ::testing::Test {
+ protected:
+  void SetUp() override { Prepara("ANGUPN"); }
+  // The sample opened again from its copy with the chord's angle `gradi` in its file.
+  void ApriConAngolo(const std::string& gradi) {
+    const fs::path file = lavoro.percorso() / "ANGUPN.qf7";
+    std::string testo = prova::LeggiTutto(file);
+    const std::size_t chiave = testo.find("[Cor_teta]");
+    const std::size_t riga = testo.rfind('\n', chiave) + 1;
+    testo.replace(riga, chiave - riga, gradi + std::string(40 - gradi.size(), ' '));
+    std::ofstream(file, std::ios::binary) << testo;
+    ASSERT_TRUE(ApriNodoDaFile(s, file));
+    s.nodo.DirLavoro = lavoro.percorso().string();
+  }
+};
+
+// The chord's angle prints as the engineer entered it, in the members' table of both reports,
+// though the geometry turns it to the half turn nearest zero for its figures (172.83 - 180 =
+// -7.17, 195.53 - 180 = 15.53); an angle entered as -7.17 stays -7.17. The limit-state cell is 8
+// wide, right-aligned.
+TEST_F(AngoloCorrenteEsempio, ComeImmessoInEntrambeLeRelazioni) {
+  struct Caso {
+    std::string gradi, ta, slu;
+  };
+  const std::string corrente = "\tCorr.\tUPN160\tDoppio\t\t 160\t 65\t 7.5\t 10.5\t";
+  const std::string correnteSlu =
+      "Corr. |UPN160              |Doppio |    160.|     65.|     7.5|"
+      "    10.5|";
+  const Caso casi[] = {
+      {"172.83", corrente + " 172.83\t-\r\n", correnteSlu + "  172.83|       -|\r\n"},
+      {"195.53", corrente + " 195.53\t-\r\n", correnteSlu + "  195.53|       -|\r\n"},
+      {"-7.17", corrente + "-7.17\t-\r\n", correnteSlu + "   -7.17|       -|\r\n"},
+  };
+  for (const Caso& c : casi) {
+    SCOPED_TRACE(c.gradi);
+    ApriConAngolo(c.gradi);
+    s.nodo.TipoVer = 0;
+    const std::string ta = Relazione("TA", "ANGUPN");
+    EXPECT_NE(ta.find(c.ta), std::string::npos) << ta.substr(0, 600);
+    s.nodo.TipoVer = 1;
+    const std::string slu = Relazione("SLU", "ANGUPN");
+    EXPECT_NE(slu.find(c.slu), std::string::npos) << slu.substr(0, 900);
+  }
 }
 
 }  // namespace

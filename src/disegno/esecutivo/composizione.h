@@ -29,8 +29,8 @@ std::vector<std::pair<std::string, int>> ListaProfili(const Sessione& s);
 std::vector<std::pair<double, int>> ListaFori(const Sessione& s);
 
 // The bill of materials with its top left corner at the drawing's origin: sections, gusset,
-// welds (bolted chord only), bolts, and the hole coordinate table when the holes are numbered,
-// each 2 rows below the one before. Returns the y of the bottom of the last table.
+// the chord weld (a chord of kind 2 only), bolts, and the hole coordinate table when the holes
+// are numbered, each 2 rows below the one before. Returns the y of the bottom of the last table.
 double DisegnaDistinta(Tavola& t, const StatoEsecutivo& stato);
 
 // The hole coordinate table with its top left corner at (x, y) and rows `passo` apart: number,

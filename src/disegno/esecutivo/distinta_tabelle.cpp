@@ -21,7 +21,6 @@
 namespace qf17 {
 namespace {
 
-constexpr char kLettere[] = " ABC";
 // Rows left empty between two tables.
 constexpr int kRigheTraTabelle = 2;
 
@@ -114,16 +113,12 @@ TabellaTesti TabellaFazzoletto(const Nodo& n) {
   return tab;
 }
 
+// The one weld of the joint, between the gusset and a chord of kind 2: numbered 1 as the
+// reports number it, its length along the chord and its leg.
 TabellaTesti TabellaSaldature(const Nodo& n) {
   TabellaTesti tab;
   tab.intestazioni = {"Sald.", "lungh", "lato"};
-  for (int i = 1; i <= kMaxAste; ++i) {
-    if (n.Ast_flag[i] != 1) continue;
-    for (int j = 1; j <= 2; ++j) {
-      tab.righe.push_back({std::string(1, kLettere[i]) + Numero(j), Numero(n.Saldature(i, j).Sld_L),
-                           Numero(n.Lato_Sald)});
-    }
-  }
+  tab.righe.push_back({"1", Numero(n.Saldature(4, 1).Sld_L), Numero(n.Lato_Sald)});
   LarghezzeDaTesti(tab, 2);
   return tab;
 }
@@ -228,7 +223,7 @@ double DisegnaDistinta(Tavola& t, const StatoEsecutivo& stato) {
   const TabellaTesti fazzoletto = TabellaFazzoletto(s.nodo);
   ScriviTabella(t, fazzoletto, 0, y, passo);
   dopo(fazzoletto.Righe());
-  if (!CorrenteSaldato(s.nodo)) {
+  if (CorrenteSaldato(s.nodo)) {
     const TabellaTesti saldature = TabellaSaldature(s.nodo);
     ScriviTabella(t, saldature, 0, y, passo);
     dopo(saldature.Righe());

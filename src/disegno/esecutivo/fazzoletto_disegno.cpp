@@ -59,6 +59,8 @@ class Dettaglio {
   void Fori();
   void Catene();
   void Numeri();
+  double LunghezzaAssi() const { return 1.2 * n_.Corrente.h / 2 * k_; }
+  std::array<Riquadro, 2> IngombroAssi() const;
   void Assi();
   void Titolo();
 
@@ -192,25 +194,53 @@ void Dettaglio::Catene() {
   }
 }
 
+// Each hole's number beside it, where it reads against no other hole (PostiNumeri); the holes
+// keep clear with their centre crosses.
 void Dettaglio::Numeri() {
+  std::vector<ForoNumerato> fori;
+  std::vector<std::int32_t> numeri;
   for (const int g : GruppiForiFazzoletto(s_)) {
     const int gruppo = GruppoBulloni(g);
     for (int k = 1; k <= n_.nBull[gruppo]; ++k) {
-      const Punto c = Foglio({stato_.ForoX(g, k), stato_.ForoY(g, k)});
-      const double r = DiamForo(o_, n_.FiBull(gruppo, k)) * k_ / 2;
-      const std::string testo = TestoNumero(static_cast<long long>(stato_.ForoNumero(g, k)));
-      t_.Testo(testo, c.x + r, c.y + r, 0, ClasseTesto::Quote, static_cast<std::int16_t>(o_[3]));
-      box_.Aggiungi(
-          {c.x + r + static_cast<double>(NumeroCaratteri(testo)) * t_.Larghezza(ClasseTesto::Quote),
-           c.y + r + t_.Altezza(ClasseTesto::Quote)});
+      const double d = n_.FiBull(gruppo, k);
+      const double croce = (DiamForo(o_, d) / 2 + 0.1 * d) * k_;
+      fori.push_back({Foglio({stato_.ForoX(g, k), stato_.ForoY(g, k)}), croce});
+      numeri.push_back(stato_.ForoNumero(g, k));
     }
   }
+  const double w = t_.Larghezza(ClasseTesto::Quote);
+  const double h = t_.Altezza(ClasseTesto::Quote);
+  PostiNumeri posti(fori, w, h);
+  for (const Riquadro& asse : IngombroAssi()) posti.Evita(asse);
+  for (std::size_t i = 0; i < fori.size(); ++i) {
+    const std::string testo = TestoNumero(static_cast<long long>(numeri[i]));
+    const std::size_t caratteri = NumeroCaratteri(testo);
+    const Punto p = posti.Posto(i, caratteri);
+    t_.Testo(testo, p.x, p.y, 0, ClasseTesto::Quote, static_cast<std::int16_t>(o_[3]));
+    box_.Aggiungi(p);
+    box_.Aggiungi({p.x + static_cast<double>(caratteri) * w, p.y + h});
+  }
+}
+
+// What the axes of the coordinate table take with their heads and letters: a number over them
+// would be hard to read.
+std::array<Riquadro, 2> Dettaglio::IngombroAssi() const {
+  const Punto o = Foglio({0, 0});
+  const double l = LunghezzaAssi();
+  const double w = t_.Larghezza(ClasseTesto::Quote);
+  const double h = t_.Altezza(ClasseTesto::Quote);
+  std::array<Riquadro, 2> r;
+  r[0].Aggiungi({o.x, o.y - h / 2});
+  r[0].Aggiungi({o.x + l + 2 * w, o.y + h / 2});
+  r[1].Aggiungi({o.x - w / 2, o.y});
+  r[1].Aggiungi({o.x + w / 2, o.y + l + 2 * h});
+  return r;
 }
 
 // The axes of the coordinate table at its origin, the node's point on the chord's axis.
 void Dettaglio::Assi() {
   const Punto o = Foglio({0, 0});
-  const double l = 1.2 * n_.Corrente.h / 2 * k_;
+  const double l = LunghezzaAssi();
   const double punta = l / 10;
   const auto colore = static_cast<std::int16_t>(o_[3]);
   const Punto px{o.x + l, o.y};

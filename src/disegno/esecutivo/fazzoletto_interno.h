@@ -4,7 +4,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <limits>
+#include <memory>
+#include <vector>
 
 #include "verifica/geometria.h"
 
@@ -25,6 +28,34 @@ struct Riquadro {
     minY = std::min(minY, p.y);
     maxY = std::max(maxY, p.y);
   }
+};
+
+// A hole of the detail on the sheet, with the reach of its centre cross: what a number keeps
+// clear of.
+struct ForoNumerato {
+  Punto centro;
+  double raggio = 0;
+};
+
+// The places of the hole numbers of the detail, given one hole after the other in the order of
+// the numbers. Each number goes beside its own hole, clear of every hole and at most half as far
+// from its own as from any other, and clear of the numbers placed before it and of the boxes to
+// avoid when such a place exists; tried at the corners of the hole first, then the axes and
+// between, at growing distances from a gap (a quarter of the text's height) on.
+class PostiNumeri {
+ public:
+  PostiNumeri(std::vector<ForoNumerato> fori, double larghezzaCarattere, double altezza);
+  ~PostiNumeri();
+  PostiNumeri(const PostiNumeri&) = delete;
+  PostiNumeri& operator=(const PostiNumeri&) = delete;
+  // A box the numbers keep clear of where they can, as of one another.
+  void Evita(const Riquadro& box);
+  // The left end of the baseline of the number of hole `foro`, `caratteri` characters long.
+  Punto Posto(std::size_t foro, std::size_t caratteri);
+
+ private:
+  class Dati;
+  std::unique_ptr<Dati> dati_;
 };
 
 // The corners of the plate as it is cut, in the chord's frame (x along the chord from the node,

@@ -26,9 +26,10 @@ Punto RuotaPunto(double x, double y, double ox, double oy, double a);
 Punto CentroBulloneNodo(const Sessione& s, int gruppo, int k, bool secondo = false);
 
 // The node view: gusset with its hidden parts, members with their extra profile edges, axes,
-// labels and end sections, the chord with its section, bolts and welds, the dimension chains
-// and the members' bolts. Fills the node view's extents in `stato`. The node geometry must have
-// run. A member's label is its letter, " - ", its section and " (n)", n the number of profiles.
+// labels and end sections, the chord with its section and its bolts or its weld, the dimension
+// chains and the members' bolts. Fills the node view's extents in `stato`. The node geometry
+// must have run. A member's label is its letter, " - ", its section and " (n)", n the number of
+// profiles.
 void DisegnaNodo(Tavola& t, StatoEsecutivo& stato);
 
 // The section outline of `profilo` in the drawing's ColoreCorrente: the local point (u, v) goes

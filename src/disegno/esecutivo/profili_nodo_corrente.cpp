@@ -122,15 +122,18 @@ void CorrenteNodo(Tavola& t, const StatoEsecutivo& stato) {
 
   s.disegno.ColoreCorrente = colore;
   s.disegno.StileLinea = kContinua;
-  // A chord of kind 2 is welded to the gusset: it has no bolt group.
-  if (TipoCorrente(c, TipoProfilo::DoppioT)) return;
+  // A chord of kind 2 is welded to the gusset along the plate's edge on it, side 6, and has no
+  // bolt group; the other kinds are a bolted pair with no weld.
+  if (TipoCorrente(c, TipoProfilo::DoppioT)) {
+    const LatoFazzoletto& lato6 = s.geometria.LatiFazzoletto[6];
+    MarcaSaldatura(t, lato6.XP[1], lato6.YP[1], lato6.XP[2], lato6.YP[2], n.PosFazzoletto, 1,
+                   n.Lato_Sald, n.Cor_teta);
+    return;
+  }
   for (int k = 1; k <= n.nBull[0]; ++k) {
     const Punto centro = CentroBulloneNodo(s, 0, k);
     DisegnaForo(t, centro.x, centro.y, n.FiBull(0, k), 1, n.Cor_teta);
   }
-  const LatoFazzoletto& lato6 = s.geometria.LatiFazzoletto[6];
-  MarcaSaldatura(t, lato6.XP[1], lato6.YP[1], lato6.XP[2], lato6.YP[2], n.PosFazzoletto, 1,
-                 n.Lato_Sald, n.Cor_teta);
 }
 
 }  // namespace qf17::profili

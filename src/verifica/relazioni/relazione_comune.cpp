@@ -1,5 +1,6 @@
 #include "verifica/relazioni/relazione_comune.h"
 
+#include <cmath>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -9,6 +10,7 @@
 #include "nodo/sessione.h"
 #include "piattaforma/file_sicuro.h"
 #include "piattaforma/file_testo.h"
+#include "verifica/comuni.h"
 #include "verifica/relazioni/relazione_ta.h"
 
 namespace qf17 {
@@ -26,6 +28,15 @@ void ScriviTitoloVerifica(const Nodo& n, TestoRelazione& r) {
 double NumeroCasellaAngolo(double radianti, Piattaforma& piattaforma) {
   double scala = 1;
   return NumeroIniziale(Formatta(RadiantiInGradi(radianti), "(DV_02)(NP_1)", scala, piattaforma));
+}
+
+double AngoloCasellaCorrente(const Nodo& n) {
+  // The geometry moves Cor_teta by a half turn at most; the tolerance only absorbs the rounding
+  // of that subtraction.
+  const double scarto = n.Cor_tetaCasella - n.Cor_teta;
+  const double mezziGiri = std::round(scarto / kPiGreco);
+  const bool stessaRetta = std::abs(scarto - mezziGiri * kPiGreco) < 1e-9;
+  return stessaRetta ? n.Cor_tetaCasella : n.Cor_teta;
 }
 
 void PreparaVerdetti(VerdettiRelazione& verdetti, int nSet) {

@@ -21,6 +21,9 @@ void ScriviTitoloVerifica(const Nodo& nodo, TestoRelazione& r);
 // The number the panel's angle box shows for an angle: degrees to two decimals at most, read
 // back.
 double NumeroCasellaAngolo(double radianti, Piattaforma& piattaforma);
+// The chord's angle the reports print: the one of its box, unless the box no longer describes
+// the chord's line (Cor_teta was set without it), when Cor_teta itself is the truth.
+double AngoloCasellaCorrente(const Nodo& nodo);
 // Verdicts for `nSet` load sets (index 0 unused), every set verified until its checks say
 // otherwise.
 void PreparaVerdetti(VerdettiRelazione& verdetti, int nSet);

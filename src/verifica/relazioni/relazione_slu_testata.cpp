@@ -38,7 +38,7 @@ void ScriviAste(Sessione& s, RigheColonne& c) {
   c.Fine();
   c.Testo("Corr.", kEtichetta).Testo(PulisciSezione(n.Corrente.Nome), kNome);
   c.Testo(Saldato(n) ? "-" : "Doppio", kModo);
-  CelleSezione(n.Corrente, n.Cor_teta, c, s.piattaforma);
+  CelleSezione(n.Corrente, AngoloCasellaCorrente(n), c, s.piattaforma);
   c.Testo("-", kLunghezza, "R").Fine();
   for (int i = 1; i <= kMaxAste; ++i) {
     if (n.Ast_flag[i] != 1) continue;

@@ -38,7 +38,7 @@ void ScriviAste(Sessione& s, TestoRelazione& r) {
   r << kT << "Corr." << kT << PulisciSezione(n.Corrente.Nome) << kT << (saldato ? "-" : "Doppio")
     << kT << kT;
   ScriviSezione(n.Corrente, r);
-  r << Numero{NumeroCasellaAngolo(n.Cor_teta, s.piattaforma)} << kT << "-" << kFine;
+  r << Numero{NumeroCasellaAngolo(AngoloCasellaCorrente(n), s.piattaforma)} << kT << "-" << kFine;
   for (int i = 1; i <= kMaxAste; ++i) {
     if (n.Ast_flag[i] != 1) continue;
     r << kT << "Asta " << LetteraAsta(i) << kT << PulisciSezione(n.Aste[i].Nome) << kT
