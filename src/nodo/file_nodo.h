@@ -21,12 +21,14 @@ inline constexpr std::string_view kTitoloSalvataggioFallito = "QF17 - SALVATAGGI
 
 // The keyed reader: fills `nodo` from the file (fields whose keys are missing keep their
 // value). False, with the family's message, when the file cannot be opened. A key with an index
-// beyond its table, a number beyond 16 bits, a count beyond its table or a non-numeric
-// Esposizione or TipoVer is an ErroreFatale naming the file, the line and the key; `nodo` may
-// then be half read, so callers read into a copy.
+// beyond its table, a number beyond 16 bits, a count beyond its table, a non-numeric Esposizione
+// or TipoVer, or a choice (mode, side, flag, load case, exposure, method) outside its values is
+// an ErroreFatale naming the file, the line and the key; so is a file with none of the node's
+// keys. `nodo` may then be half read, so callers read into a copy.
 bool LeggiNodo(Nodo& nodo, const std::filesystem::path& file, Piattaforma& piattaforma);
-// The positional reader of both older generations; false on any failure, without a message
-// (the fields read up to the failure stay in `nodo`). It never throws ErroreFatale.
+// The positional reader of both older generations; false on any failure, a choice outside its
+// values included, without a message (the fields read up to the failure stay in `nodo`). It
+// never throws ErroreFatale.
 bool LeggiNodoVecchio(Nodo& nodo, const std::filesystem::path& file);
 // Writes the keyed file (temporary file renamed over the target). False, with the family's
 // message, when it cannot be written.
