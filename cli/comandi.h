@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "piattaforma/confine_comando.h"
 
@@ -59,6 +60,30 @@ void RegistraDisegna(CLI::App& app, ComandoDisegna& opzioni);
 // output is the node file itself.
 int EseguiDisegna(Sessione& sessione, const std::filesystem::path& file,
                   const ComandoDisegna& opzioni);
+
+// "bulloni NODO --gruppo corrente|A|B|C [--matrice RIGHE COLONNE DIAMETRO] [--margini SX DX SU
+// IN] [--aggiungi] [--anteprima FILE.svg] [-o FILE]": the bolt editor of one group, opened as
+// the panel's bolt button opens it, driven as a user would drive it.
+struct ComandoBulloni {
+  CLI::App* comando = nullptr;
+  std::string nodo;
+  std::string gruppo;
+  std::vector<double> matrice;  // rows, columns, diameter
+  std::vector<double> margini;  // left, right, upper, lower
+  bool aggiungi = false;
+  std::string anteprima;
+  std::string uscita;  // empty: the node file itself is rewritten
+};
+
+// Adds the subcommand to `app`; `opzioni` receives the parsed values and must outlive parsing.
+void RegistraBulloni(CLI::App& app, ComandoBulloni& opzioni);
+
+// Opens the editor; without a matrix prints its readouts and the group's bolts and changes
+// nothing; with one, removes the group's bolts (unless adding), types the matrix's boxes,
+// presses Enter, types the margins if given, adds the matrix, confirms and saves the node. 0 when
+// done, 2 when the editor does not open, the matrix is refused or a file cannot be written.
+int EseguiBulloni(Sessione& sessione, const std::filesystem::path& file,
+                  const ComandoBulloni& opzioni);
 
 // "verifica NODO [--metodo TA] [--json FILE]": runs the verification as the button does, writes
 // the report in the job folder and prints its path. 0 when the node is verified, 1 when it is

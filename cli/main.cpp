@@ -103,6 +103,8 @@ int main(int argc, char** argv) {
   RegistraSollecitazioni(app, sollecitazioni);
   ComandoDisegna disegna;
   RegistraDisegna(app, disegna);
+  ComandoBulloni bulloni;
+  RegistraBulloni(app, bulloni);
   std::string metodo, fileJson;
   auto* verifica = app.add_subcommand(
       "verifica",
@@ -131,6 +133,7 @@ int main(int argc, char** argv) {
       if (*verifica) return ComandoVerifica(s, FileNodo(s, ingresso), metodo, fileJson);
       if (*nodo) return Mostra(s, ingresso);
       if (*disegna.comando) return EseguiDisegna(s, FileNodo(s, disegna.nodo), disegna);
+      if (*bulloni.comando) return EseguiBulloni(s, FileNodo(s, bulloni.nodo), bulloni);
       return EseguiSollecitazioni(s, FileNodo(s, sollecitazioni.nodo), sollecitazioni);
     });
   } catch (const FineProgramma&) {

@@ -17,32 +17,11 @@ namespace {
 // Clear space round what is drawn, millimetres.
 constexpr double kMargineSvg = 10.0;
 
-// Four decimals are a tenth of a micrometre on the sheet: more than any viewer shows.
 std::string N(double valore) {
-  return TestoNumero(ArrotondaPari(valore, 4));
+  return NumeroSvg(valore);
 }
-
 std::string Escape(std::string_view testo) {
-  std::string r;
-  for (char c : testo) {
-    switch (c) {
-      case '&':
-        r += "&amp;";
-        break;
-      case '<':
-        r += "&lt;";
-        break;
-      case '>':
-        r += "&gt;";
-        break;
-      case '"':
-        r += "&quot;";
-        break;
-      default:
-        r += c;
-    }
-  }
-  return r;
+  return TestoXml(testo);
 }
 
 // What is drawn, gathered element by element, with the box that holds it (sheet frame, Y up).
@@ -184,6 +163,34 @@ bool SalvaSvg(Sessione& s, const std::string& nome, std::int16_t silenzioso) {
                             Pulsanti::Ok);
   }
   return scritto;
+}
+
+// Four decimals are a tenth of a micrometre on the sheet: more than any viewer shows.
+std::string NumeroSvg(double valore) {
+  return TestoNumero(ArrotondaPari(valore, 4));
+}
+
+std::string TestoXml(std::string_view testo) {
+  std::string r;
+  for (char c : testo) {
+    switch (c) {
+      case '&':
+        r += "&amp;";
+        break;
+      case '<':
+        r += "&lt;";
+        break;
+      case '>':
+        r += "&gt;";
+        break;
+      case '"':
+        r += "&quot;";
+        break;
+      default:
+        r += c;
+    }
+  }
+  return r;
 }
 
 }  // namespace qf17

@@ -24,6 +24,10 @@ inline constexpr std::array<std::string_view, 8> kColoriSvg = {
     "#800080",  // 7 purple
 };
 std::string_view ColoreSvg(std::int16_t indice);
+// A number of an SVG file: at most four decimals, point as decimal mark, whatever the locale.
+std::string NumeroSvg(double valore);
+// A text with the characters XML reserves escaped.
+std::string TestoXml(std::string_view testo);
 
 // Dash patterns in millimetres of the sheet by line type; continuous (and the unused types 2
 // and 3) have none.
