@@ -66,9 +66,9 @@ std::string AnteprimaSvg(const AreaEditor& a, const std::vector<PrimitivaAntepri
       case PrimitivaAnteprima::Tipo::Testo:
         // A label of the form stands with its top left corner on its point: the baseline of a
         // 12-pixel text is 10 pixels below it.
-        svg += "<text x=\"" + X(p.x1) + "\" y=\"" + Y(p.y1 - 10 * px) + "\" font-family=\"sans-serif\" " +
-               "font-size=\"" + NumeroSvg(12 * px) + "\" fill=\"" + colore + "\">" +
-               TestoXml(p.testo) + "</text>\n";
+        svg += "<text x=\"" + X(p.x1) + "\" y=\"" + Y(p.y1 - 10 * px) +
+               "\" font-family=\"sans-serif\" " + "font-size=\"" + NumeroSvg(12 * px) +
+               "\" fill=\"" + colore + "\">" + TestoXml(p.testo) + "</text>\n";
         break;
     }
   }

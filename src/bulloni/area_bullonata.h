@@ -4,34 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "disegno/primitive_schermo.h"
 #include "librerie/profilo.h"
 
 namespace qf17 {
 
 struct Nodo;
-
-// The colours of the editor's preview, by what they mark. The family's colour words are kept
-// beside each, for a front end that paints them as they were.
-enum class ColoreAnteprima {
-  Asse,     // gravity axis: dark blue, 12582912
-  Sezione,  // the section's outline: the system's button text colour
-  Area,     // the bolt-able area: blue, 16711680
-  Bullone,  // bolts: green, 32768
-};
-
-enum class TrattoAnteprima { Continuo, Tratteggiato, TrattoPunto };
-
-// One thing of the preview, in the group's local coordinates (mm): a segment, a circle (centre
-// and radius in x1, y1, raggio) or a text standing with its left end at (x1, y1).
-struct PrimitivaAnteprima {
-  enum class Tipo { Linea, Cerchio, Testo };
-  Tipo tipo = Tipo::Linea;
-  double x1 = 0, y1 = 0, x2 = 0, y2 = 0, raggio = 0;
-  ColoreAnteprima colore = ColoreAnteprima::Sezione;
-  TrattoAnteprima tratto = TrattoAnteprima::Continuo;
-  std::string testo;
-  std::string controllo;  // a text's label control: LabelX, LabelY, Label, LabQuotaX, LabQuotaY
-};
 
 // The bolt-able area of a group and the picture's coordinate window: one scale on both axes, so
 // that a circle stays a circle, the window centred and moved down by AreaOffsetY.

@@ -5,11 +5,14 @@
 #include <unordered_map>
 #include <vector>
 
+#include "disegno/primitive_schermo.h"
+
 namespace qf17 {
 
 // One control of a form, as a front end paints it: the text of a box or the caption of a
 // label, button or frame; enabled and visible; the value of a check box, option button or scroll
-// bar (with its range); the items and the selection of a combo; the tooltip.
+// bar (with its range); the items and the selection of a combo; the tooltip; what a picture
+// shows.
 struct Controllo {
   std::string testo;
   bool abilitato = true;
@@ -19,6 +22,7 @@ struct Controllo {
   std::vector<std::string> voci;
   int selezione = -1;
   std::string tooltip;
+  DisegnoSchermo disegno;
 };
 
 // The controls of a form by name and, for a control array, index: "FzTxt(3)", "SpessTxt".

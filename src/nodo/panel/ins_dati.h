@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "nodo/panel/controlli.h"
 
@@ -20,6 +21,10 @@ struct InsDati {
   std::int16_t GruppoEditor = 0;  // the bolt group under the pointer or of the last bolt button
   int primaSoll = 1;              // the load set on the first row of the load table
   bool cambiato = false;          // a geometry box changed the node
+  bool manina = false;            // the pointer is a hand over a hot area of the schema
+  // The section combos' lists: table rows, rebuilt when the table's size changes.
+  std::vector<std::int16_t> listaCorrente, listaAste;
+  int numeroProfiliListe = -1;
   // Called after a change of the model while a 3D view is live (the node's Vista3DAttiva).
   std::function<void()> ricostruisci3D;
 };
