@@ -82,7 +82,11 @@ TEST_F(Pannello, CaselleDeiCarichi) {
 }
 
 TEST_F(Pannello, RipristinoNellaFormaDellaCasella) {
-  n.Cor_teta = GradiInRadianti(172.83);
+  // The chord entered at 172.83 degrees, which the geometry turns to -7.17: the box keeps the
+  // angle as entered.
+  Digita(FamigliaCasella::TetaTxt, 0, "172.83");
+  EXPECT_EQ(n.Cor_tetaCasella, n.Cor_teta);
+  n.Cor_teta -= 3.14159265358979;
   n.Fz_b = 250.5;
   pnn1_aggiorna_textbox(p, n, u, piattaforma);
   EXPECT_EQ(p.c("TetaTxt", 0).testo, "172.83");

@@ -8,6 +8,7 @@
 #include "librerie/unita.h"
 #include "nodo/nodo.h"
 #include "nodo/panel/ins_dati.h"
+#include "verifica/relazioni/relazione_comune.h"
 
 namespace qf17 {
 namespace {
@@ -87,6 +88,8 @@ void TbValuta(InsDati& p, Nodo& n, const UnitaLavoro& u, Casella c) {
   }
   double* campo = Campo(n, c);
   *campo = c.famiglia == FamigliaCasella::TetaTxt ? GradiInRadianti(v) : v;
+  // The chord's angle as entered, which the reports print whatever the geometry makes of it.
+  if (c.famiglia == FamigliaCasella::TetaTxt && c.indice == 0) n.Cor_tetaCasella = n.Cor_teta;
   if (c.famiglia == FamigliaCasella::BeffTxt) return;
   p.cambiato = true;
   if (n.Vista3DAttiva == 1 && p.ricostruisci3D) p.ricostruisci3D();
@@ -103,7 +106,8 @@ void TbRipristina(InsDati& p, const Nodo& n, const UnitaLavoro& u, Piattaforma& 
                     : TestoNumero(n.SforzoNormale(Membro(c.famiglia), j) * u.FatForze);
     return;
   }
-  const double valore = *Campo(n, c);
+  const bool corrente = c.famiglia == FamigliaCasella::TetaTxt && c.indice == 0;
+  const double valore = corrente ? AngoloCasellaCorrente(n) : *Campo(n, c);
   box.testo = c.famiglia == FamigliaCasella::TetaTxt ? TestoAngolo(valore, piattaforma)
                                                      : TestoNumero(valore);
 }
