@@ -241,20 +241,6 @@ TEST(GeometriaLati, CorrenteAngolareRuotato) {
   prova::AttesoPunto(b2, 1, -124.97114317029973, -126.45636945092346);
 }
 
-TEST(GeometriaLati, OffSoloPerIlCorrenteAngolare) {
-  struct Caso {
-    std::int16_t tipo;
-    double y1;  // C1: -50 + Off, Off = (50 - 20) * (-1) for an angle
-  } casi[] = {{0, -50}, {1, -80}, {2, -50}};
-  for (const Caso& c : casi) {
-    NodoGeometria g;
-    g.n.Corrente.Tipo = c.tipo;
-    g.Asta(1, 45, 0);
-    g.Esegui();
-    EXPECT_EQ(g.Lato(1).YP[1], c.y1) << c.tipo;
-  }
-}
-
 TEST(GeometriaLati, InterseziLatiConLaDirezioneDiAngoloSegmento) {
   NodoGeometria g;
   g.Asta(1, 45, 0);
