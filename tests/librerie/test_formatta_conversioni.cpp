@@ -99,26 +99,6 @@ TEST(ConversioniUnita, PrimaChiaveTrovataInQualsiasiMaiuscolo) {
   EXPECT_EQ(s, -2);
 }
 
-TEST(ConversioniUnita, ChiaveSconosciuta) {
-  PiattaformaRegistrata p;
-  double v = 5;
-  int s = 7;
-  EXPECT_FALSE(ConvertiUnita(v, "(cu_x_y)", s, p));
-  EXPECT_EQ(v, 5);
-  ASSERT_EQ(p.messaggi.size(), 1u);
-  EXPECT_EQ(p.messaggi[0].testo, "Stringa di conversione unità di misura non riconosciuta.");
-  EXPECT_EQ(p.messaggi[0].titolo, "QF17");
-  EXPECT_EQ(p.messaggi[0].icona, Icona::Critica);
-
-  // "(cu_" with nothing behind it asks for nothing.
-  PiattaformaRegistrata q;
-  v = 5;
-  EXPECT_TRUE(ConvertiUnita(v, "(cd_02)(cu_", s, q));
-  EXPECT_EQ(v, 5);
-  EXPECT_EQ(s, 0);
-  EXPECT_TRUE(q.messaggi.empty());
-}
-
 // Every row: a known key in lower case, reachable by its own command, with a positive factor
 // and the shift of the rule.
 TEST(ConversioniUnita, OgniRigaRaggiungibile) {

@@ -76,6 +76,8 @@ TEST(MaterialiCambioMetodo, AcciaioCambiatoAlRitornoEQuelloRicordato) {
   CambiaMetodo(s, SLU);
   EXPECT_EQ(s.nodo.acciaio, m.Acciai[3]);
   EXPECT_EQ(b.Scelto(), "S 355 (FE 510)");
+  CambiaMetodo(s, SLU);  // the method already set: nothing is remembered again
+  EXPECT_EQ(m.AcciaioTA, m.Acciai[1]);
   EXPECT_TRUE(b.p.messaggi.empty()) << b.p.messaggi.front().testo;
 }
 

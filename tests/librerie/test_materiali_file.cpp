@@ -16,20 +16,6 @@ const fs::path kDati = fs::path(QF17_DATI_TEST) / "librerie" / "dati" / "materia
 const fs::path kCampione =
     fs::path(QF17_SORGENTI) / "installazione" / "custom" / "MaterialiNTC08.tx1";
 
-void AttesoAcciaio(const Acciaio& a, const char* nome, double SAmm, double SAmm40, double fy,
-                   double ft, double fy40, double ft40) {
-  SCOPED_TRACE(nome);
-  EXPECT_EQ(a.Nome, nome);
-  EXPECT_EQ(a.SAmm, SAmm);
-  EXPECT_EQ(a.SAmm40, SAmm40);
-  EXPECT_EQ(a.fy, fy);
-  EXPECT_EQ(a.ft, ft);
-  EXPECT_EQ(a.fy40, fy40);
-  EXPECT_EQ(a.ft40, ft40);
-  EXPECT_EQ(a.gM, 1.05);
-  EXPECT_EQ(a.gMT, 1.25);
-}
-
 // The installation's file: CNR 10011 allowable stresses, NTC 2008 strengths, daN/cm2.
 TEST(MaterialiFile, CampioneDellInstallazione) {
   Materiali m;
@@ -37,10 +23,11 @@ TEST(MaterialiFile, CampioneDellInstallazione) {
   ASSERT_EQ(esito.errore, "");
   EXPECT_FALSE(esito.vecchio);
 
+  // The strengths of S 235, S 275 and S 355 that the sample reports print (allowable stresses,
+  // design strengths, bearing) are checked there; ft over 40 mm is printed by none.
   ASSERT_EQ(m.NumAcciai, 4);
-  AttesoAcciaio(m.Acciai[1], "S 235 (FE 360)", 1600, 1400, 2350, 3600, 2150, 3600);
-  AttesoAcciaio(m.Acciai[2], "S 275 (FE 430)", 1900, 1700, 2750, 4300, 2550, 4100);
-  AttesoAcciaio(m.Acciai[3], "S 355 (FE 510)", 2400, 2100, 3550, 5100, 3350, 4700);
+  EXPECT_EQ((std::array{m.Acciai[1].ft40, m.Acciai[2].ft40, m.Acciai[3].ft40}),
+            (std::array<double, 3>{3600, 4100, 4700}));
   EXPECT_EQ(m.Acciai[4].SAmm, 0);  // only for limit states
   EXPECT_GT(m.Acciai[4].fy40, 0);
 

@@ -165,40 +165,6 @@ TEST(MaterialiListe, SceltaAcciaioRigaPiuUno) {
   EXPECT_EQ(b.s.nodo.TipoVer, TA);
 }
 
-// Each method keeps its own steel; the first move copies the current steel into the empty memory.
-TEST(MaterialiListe, CambioMetodoRicordaAcciaio) {
-  Banco b;
-  Sessione& s = b.s;
-  s.nodo.TipoVer = TA;
-  s.nodo.acciaio = s.materiali.Acciai[4];  // S 275, allowed by both
-  RiempiListaAcciai(s, s.nodo.acciaio.Nome);
-
-  CambiaMetodo(s, SLU);
-  EXPECT_EQ(s.nodo.TipoVer, SLU);
-  EXPECT_EQ(s.materiali.AcciaioTA.Nome, "S 275 (FE 430)");
-  EXPECT_EQ(s.materiali.AcciaioSLU.Nome, "S 275 (FE 430)");
-  EXPECT_EQ(s.nodo.acciaio.Nome, "S 275 (FE 430)");
-  EXPECT_EQ(s.materiali.ListaAcciai.size(), 5u);
-  EXPECT_EQ(s.materiali.ListaAcciaiScelta, 2);
-
-  SceltaAcciaio(s, 0);  // S 460, limit states only
-  ASSERT_EQ(s.nodo.acciaio.Nome, "S 460 (NTC08)");
-
-  CambiaMetodo(s, TA);
-  EXPECT_EQ(s.materiali.AcciaioSLU.Nome, "S 460 (NTC08)");
-  EXPECT_EQ(s.nodo.acciaio.Nome, "S 275 (FE 430)");
-  EXPECT_EQ(s.materiali.ListaAcciai.size(), 4u);
-  EXPECT_EQ(s.materiali.ListaAcciaiScelta, 2);
-
-  CambiaMetodo(s, SLU);
-  EXPECT_EQ(s.nodo.acciaio.Nome, "S 460 (NTC08)");
-  EXPECT_EQ(s.materiali.ListaAcciaiScelta, 0);
-  EXPECT_TRUE(b.p.messaggi.empty());
-
-  CambiaMetodo(s, SLU);  // the method already set
-  EXPECT_EQ(s.materiali.AcciaioTA.Nome, "S 275 (FE 430)");
-}
-
 // A limit-state steel carried to allowable stresses with an empty memory: the warning, and the
 // replacement is what the next move remembers.
 TEST(MaterialiListe, CambioMetodoConAcciaioNonAmmesso) {

@@ -110,24 +110,6 @@ TEST_F(LibreriaCampione, AreeCoerentiConLeDimensioni) {
   }
 }
 
-TEST_F(LibreriaCampione, DopoCompletaProfili) {
-  CompletaProfili(lib_);
-  EXPECT_EQ(Riga("IPE140").Tipo, 2);
-  EXPECT_EQ(Riga("HEB1000").Tipo, 2);
-  const Profilo& upn = Riga("UPN120");  // b 55, tw 7, tf 9
-  EXPECT_EQ(upn.Tipo, 0);
-  EXPECT_DOUBLE_EQ(upn.dBarY, 0);
-  EXPECT_DOUBLE_EQ(upn.r1, 9);
-  EXPECT_DOUBLE_EQ(upn.r2, 4.5);
-  EXPECT_NEAR(upn.eBordo, 7.16, 1e-12);
-  EXPECT_NEAR(upn.eAnima, 9.92, 1e-12);
-  const Profilo& lu = Riga("LU60x6");
-  EXPECT_EQ(lu.Tipo, 1);
-  EXPECT_DOUBLE_EQ(lu.r1, 6);
-  EXPECT_DOUBLE_EQ(lu.r2, 3);
-  EXPECT_EQ(Riga("LD200x150x15").Tipo, 1);
-}
-
 TEST(LibreriaCampioneFile, Windows1252ConCrLf) {
   auto byte = LeggiByte(fs::path(QF17_SORGENTI) / "installazione" / "custom" / "Prof_pro");
   ASSERT_TRUE(byte);

@@ -6,7 +6,6 @@
 #include "nodo/chiavi.h"
 #include "piattaforma/errori.h"
 #include "piattaforma/piattaforma_registrata.h"
-#include "sessione_prova.h"
 #include "supporto/cartella_prova.h"
 
 namespace qf17 {
@@ -173,14 +172,9 @@ TEST(Chiavi, NomiDiFileESostituzioni) {
   EXPECT_EQ(SoloNomeFile("C:\\lavori\\esempi\\ANGUPN.qf7"), "ANGUPN.qf7");
   EXPECT_EQ(SoloNomeFile("/lavori/esempi/ANGUPN.qf7"), "ANGUPN.qf7");
   EXPECT_EQ(SoloNomeFile("ANGUPN.qf7"), "ANGUPN.qf7");
-  EXPECT_EQ(SenzaEstensione("nodo.1.qf7"), "nodo.1");
   EXPECT_EQ(SenzaEstensione("Nuovo"), "Nuovo");
   EXPECT_EQ(Sostituisci("a-B-b", "b", "x"), "a-B-x");
   EXPECT_EQ(Sostituisci("a-B-b", "b", "x", true), "a-x-x");
-}
-
-TEST(Chiavi, DataOraSalvataggio) {
-  EXPECT_EQ(DataOraSalvataggio(prova::OraLocale(2024, 3, 5, 9, 7)), "2024_03_05_09_07");
 }
 
 }  // namespace

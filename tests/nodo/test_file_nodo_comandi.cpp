@@ -46,17 +46,6 @@ TEST(ComandiNodo, ApriNodoDaUnAltraCartella) {
   EXPECT_TRUE(std::filesystem::exists(s.cartella / "nodo_piccolo.qf7"));
 }
 
-TEST(ComandiNodo, ApriNodoFileMancante) {
-  SessioneProva s;
-  const auto mancante = s.cartella / "manca.qf7";
-  s.piattaforma.fileScelti.push_back(FileScelto{mancante.string(), 1});
-  EXPECT_FALSE(ApriNodo(s.sessione));
-  ASSERT_EQ(s.piattaforma.messaggi.size(), 1u);
-  EXPECT_EQ(s.piattaforma.messaggi[0].testo, "Errore in lettura del file:\n" + mancante.string());
-  EXPECT_EQ(s.piattaforma.messaggi[0].titolo, "LETTURA RELEASE");
-  EXPECT_EQ(s.sessione.nodo.NomeFileNodo, "Nuovo");
-}
-
 TEST(ComandiNodo, NomiAssentiNelleLibrerie) {
   SessioneProva s;
   const auto f = s.ScriviFile("strano.qf7", kTestataNodo +

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "nodo/file_nodo.h"
 #include "sessione_prova.h"
@@ -8,75 +9,45 @@
 namespace qf17::prova {
 namespace {
 
+// The fields of each old file, read back; a quoted string keeps its commas.
 TEST(FileNodoVecchio, SecondaGenerazione) {
   Nodo n;
   ASSERT_TRUE(LeggiNodoVecchio(n, DatoProva("vecchio2.qf7")));
-  EXPECT_EQ(n.Corrente.Nome, "HEA200");
-  EXPECT_EQ(n.Cor_teta, 0);
-  EXPECT_EQ(n.Lato_Sald, 7);
-  EXPECT_EQ(n.Aste[1].Nome, "LU70x7");
-  EXPECT_EQ(n.Aste[1].Tipo, 1);
-  EXPECT_EQ(n.Ast_modo[1], 1);
-  EXPECT_EQ(n.Ast_ins[1], 180);
+  EXPECT_EQ(
+      (std::vector<std::string>{n.Corrente.Nome, n.Aste[1].Nome, n.acciaio.Nome, n.vite.Nome,
+                                n.NomeSa[1]}),
+      (std::vector<std::string>{"HEA200", "LU70x7", "S 275 (FE 430)", "8.8", "Soll 1, neve"}));
+  EXPECT_EQ((std::vector<double>{n.Cor_teta, n.Lato_Sald, n.Ast_ins[1], n.Saldature(1, 2).Sld_L,
+                                 n.Fz_s, n.xBull(1, 3), n.yBull(2, 2), n.FiBull(3, 1),
+                                 n.SforzoNormale(1, 1), n.SforzoNormale(3, 2), n.Ast_coeff[3]}),
+            (std::vector<double>{0, 7, 180, 180, 12, 140, 30, 16, -18500, 3900, 0.9}));
+  EXPECT_EQ((std::vector<int>{n.Aste[1].Tipo, n.Ast_modo[1], n.Ast_modo[3], n.Ast_lato[3],
+                              n.nBull[0], n.nBull[1], n.nBull[2], n.Esposizione, n.nSollAg,
+                              n.CasoCarico[2], n.NumNodi, n.NomeNodi[1], n.TipoVer}),
+            (std::vector<int>{1, 1, 2, 1, 0, 3, 2, 1, 2, 1, 1, 345, 0}));
   EXPECT_EQ(n.Ast_teta[1], 45 * kGrado);
-  EXPECT_EQ(n.Saldature(1, 2).Sld_L, 180);
-  EXPECT_EQ(n.Ast_modo[3], 2);
-  EXPECT_EQ(n.Ast_lato[3], 1);
   EXPECT_EQ(n.Ast_teta[3], 135 * kGrado);
-  EXPECT_EQ(n.Fz_s, 12);
-  EXPECT_EQ(n.nBull[0], 0);
-  EXPECT_EQ(n.nBull[1], 3);
-  EXPECT_EQ(n.xBull(1, 3), 140);
-  EXPECT_EQ(n.nBull[2], 2);
-  EXPECT_EQ(n.yBull(2, 2), 30);
-  EXPECT_EQ(n.FiBull(3, 1), 16);
-  EXPECT_EQ(n.acciaio.Nome, "S 275 (FE 430)");
-  EXPECT_EQ(n.vite.Nome, "8.8");
-  EXPECT_EQ(n.Esposizione, 1);
-  EXPECT_EQ(n.nSollAg, 2);
-  EXPECT_EQ(n.SforzoNormale(1, 1), -18500);
-  EXPECT_EQ(n.SforzoNormale(3, 2), 3900);
-  EXPECT_EQ(n.CasoCarico[2], 1);
-  // A quoted string keeps its commas.
-  EXPECT_EQ(n.NomeSa[1], "Soll 1, neve");
-  EXPECT_EQ(n.NumNodi, 1);
-  EXPECT_EQ(n.NomeNodi[1], 345);
-  EXPECT_EQ(n.Ast_coeff[3], 0.9);
-  EXPECT_EQ(n.TipoVer, 0);
 }
 
+// Whole degrees: 50.5 rounds half to even. The first generation's strengths go into the
+// current records' first two fields; the others keep theirs.
 TEST(FileNodoVecchio, PrimaGenerazione) {
   Nodo n;
   n.acciaio.Nome = "prima";
   n.acciaio.fy = 1234;
   ASSERT_TRUE(LeggiNodoVecchio(n, DatoProva("vecchio1.qf7")));
-  EXPECT_EQ(n.Corrente.Nome, "UPN160");
+  EXPECT_EQ((std::vector<std::string>{n.Corrente.Nome, n.Aste[2].Nome, n.acciaio.Nome, n.vite.Nome,
+                                      n.NomeSa[1]}),
+            (std::vector<std::string>{"UPN160", "UPN120", "FE 360", "8.8", "Soll 1"}));
   EXPECT_EQ(n.Cor_teta, -5 * kGrado);
-  EXPECT_EQ(n.Lato_Sald, 10);
-  // Whole degrees: 50.5 rounds half to even.
   EXPECT_EQ(n.Ast_teta[1], 50 * kGrado);
-  EXPECT_EQ(n.Aste[2].Nome, "UPN120");
-  EXPECT_EQ(n.Aste[2].Tipo, 0);
-  EXPECT_EQ(n.Ast_flag[3], 0);
-  EXPECT_EQ(n.Ast_flag[6], 0);
-  EXPECT_EQ(n.Saldature(3, 1).Sld_L, 140);
-  EXPECT_EQ(n.nBull[0], 2);
-  EXPECT_EQ(n.xBull(0, 2), 600);
-  EXPECT_EQ(n.FiBull(2, 2), 20);
-  EXPECT_EQ(n.nBull[3], 0);
-  // The first generation's strengths go into the current records' first two fields.
-  EXPECT_EQ(n.acciaio.Nome, "FE 360");
-  EXPECT_EQ(n.acciaio.SAmm, 1600);
-  EXPECT_EQ(n.acciaio.SAmm40, 1400);
-  EXPECT_EQ(n.acciaio.fy, 1234);
-  EXPECT_EQ(n.vite.Nome, "8.8");
-  EXPECT_EQ(n.vite.SAmmViti, 3700);
-  EXPECT_EQ(n.vite.TauAmmViti, 2600);
-  EXPECT_EQ(n.nSollAg, 1);
-  EXPECT_EQ(n.SforzoNormale(2, 1), -9000);
-  EXPECT_EQ(n.NomeSa[1], "Soll 1");
-  EXPECT_EQ(n.NumNodi, 0);
-  EXPECT_EQ(n.TipoVer, 1);
+  EXPECT_EQ((std::vector<double>{n.Lato_Sald, n.Saldature(3, 1).Sld_L, n.xBull(0, 2),
+                                 n.FiBull(2, 2), n.acciaio.SAmm, n.acciaio.SAmm40, n.acciaio.fy,
+                                 n.vite.SAmmViti, n.vite.TauAmmViti, n.SforzoNormale(2, 1)}),
+            (std::vector<double>{10, 140, 600, 20, 1600, 1400, 1234, 3700, 2600, -9000}));
+  EXPECT_EQ((std::vector<int>{n.Aste[2].Tipo, n.Ast_flag[3], n.Ast_flag[6], n.nBull[0], n.nBull[3],
+                              n.nSollAg, n.NumNodi, n.TipoVer}),
+            (std::vector<int>{0, 0, 0, 2, 0, 1, 0, 1}));
 }
 
 TEST(FileNodoVecchio, ApertoDalComandoPrendeLeLibrerie) {

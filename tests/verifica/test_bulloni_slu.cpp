@@ -11,25 +11,6 @@ namespace {
 
 using prova::ProvaBulloniSLU;
 
-// Member A: bolted height 100, line of action at 50.
-TEST(ForzeBulloniSLU, RipartizioneRigida) {
-  ProvaBulloniSLU p;
-  // On the axis: xG = 60, yG = 50 = yP, MomG = 0: 1000 / 2 = 500 each.
-  p.Bullone(1, 30, 50, 16);
-  p.Bullone(1, 90, 50, 16);
-  // Below it: MomG = -(50 - 40) * 1000 = -10000, Ip = 30^2 + 30^2 = 1800,
-  // FyB = (-10000 / 1800) * (-/+30) = +/-166.667, FedBull = sqrt(500^2 + 166.667^2) = 527.046.
-  p.Bullone(2, 30, 40, 16);
-  p.Bullone(2, 90, 40, 16);
-  ForzeBulloniSLU(p.sessione, 2, 4, 1000, 0, 0);
-  ForzeBulloniSLU(p.sessione, 3, 4, -1000, 0, 0);
-  for (int k = 1; k <= 2; ++k) {
-    EXPECT_NEAR(p.r.FedBull(1, k, 4), 500, 1e-9) << k;
-    EXPECT_NEAR(p.r.FedBull(2, k, 4), 527.046, 0.001) << k;
-  }
-  EXPECT_TRUE(p.piattaforma.messaggi.empty());
-}
-
 // Bolts all in one spot (Ip not above 0.0001) share a force through them equally.
 TEST(ForzeBulloniSLU, TuttiInUnPuntoSenzaMomentoParteUguale) {
   struct Caso {
@@ -77,28 +58,6 @@ TEST(ForzeBulloniSLU, BulloneSoloConMomentoTieneIlValorePrecedente) {
   p.r.FedBull(1, 1, 3) = 123;
   ForzeBulloniSLU(p.sessione, 2, 3, 1000, 0, 0);
   EXPECT_EQ(p.r.FedBull(1, 1, 3), 123);
-}
-
-TEST(ForzeBulloniSLU, GruppiSenzaRipartizione) {
-  ProvaBulloniSLU p;
-  // A welded chord has no group, whatever its table holds.
-  p.nodo.Corrente.Tipo = 2;
-  p.Bullone(0, 30, 40, 16);
-  p.Bullone(0, 90, 40, 16);
-  p.r.FedBull(0, 1, 1) = 7;
-  ForzeBulloniSLU(p.sessione, 1, 1, 1000, 500, 60);
-  EXPECT_EQ(p.r.FedBull(0, 1, 1), 7);
-  ForzeBulloniSLU(p.sessione, 4, 1, 1000, 0, 0);  // member C has no bolt
-  EXPECT_TRUE(p.piattaforma.messaggi.empty());
-  // Bolts without diameter have no area: told with the group's number.
-  p.Bullone(1, 30, 40, 0);
-  p.Bullone(1, 90, 40, 0);
-  p.r.FedBull(1, 1, 1) = 9;
-  ForzeBulloniSLU(p.sessione, 2, 1, 1000, 0, 0);
-  ASSERT_EQ(p.piattaforma.messaggi.size(), 1u);
-  EXPECT_EQ(p.piattaforma.messaggi[0].testo, "Area bulloni nulla nell'asta 2");
-  EXPECT_EQ(p.piattaforma.messaggi[0].titolo, "QF17");
-  EXPECT_EQ(p.r.FedBull(1, 1, 1), 9);
 }
 
 TEST(RapportoBullone, ForzaSullaMinoreResistenza) {

@@ -8,23 +8,15 @@ namespace {
 
 using prova::ProvaBulloniTA;
 
+// Below 1.2 d the coefficient is the distance itself, in mm.
 TEST(CoefficienteRifollamento, RigheDellaTabella) {
   struct Caso {
     double a, d, k;
   };
   const Caso casi[] = {
-      {30, 10, 2.5},
-      {45, 10, 2.5},
-      {29.99, 10, 2.0},
-      {20, 10, 2.0},
-      {19.99, 10, 1.4},
-      {15, 10, 1.4},
-      {14.99, 10, 1.0},
-      {12, 10, 1.0},
-      // Below 1.2 d the coefficient is the distance itself, in mm.
-      {11, 10, 11},
-      {11.99, 10, 11.99},
-      {5, 16, 5},
+      {30, 10, 2.5},    {45, 10, 2.5},      {29.99, 10, 2.0}, {20, 10, 2.0},
+      {19.99, 10, 1.4}, {15, 10, 1.4},      {14.99, 10, 1.0}, {12, 10, 1.0},
+      {11, 10, 11},     {11.99, 10, 11.99}, {5, 16, 5},
   };
   for (const Caso& c : casi) {
     EXPECT_EQ(CoefficienteRifollamento(c.a, c.d), c.k) << "a " << c.a << " d " << c.d;

@@ -58,11 +58,5 @@ TEST(Comuni, MaxAssTieneIlSegno) {
   EXPECT_EQ(MaxAss(4, -4), 4);
 }
 
-TEST(Comuni, FattoreLunghezza) {
-  EXPECT_EQ(FattoreLunghezza("mm"), 10.0);
-  EXPECT_EQ(FattoreLunghezza("cm"), 1.0);
-  EXPECT_EQ(FattoreLunghezza("m"), 0.01);
-}
-
 }  // namespace
 }  // namespace qf17

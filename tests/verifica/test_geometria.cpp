@@ -241,20 +241,6 @@ TEST(GeometriaLati, CorrenteAngolareRuotato) {
   prova::AttesoPunto(b2, 1, -124.97114317029973, -126.45636945092346);
 }
 
-TEST(GeometriaLati, OffSoloPerIlCorrenteAngolare) {
-  struct Caso {
-    std::int16_t tipo;
-    double y1;  // C1: -50 + Off, Off = (50 - 20) * (-1) for an angle
-  } casi[] = {{0, -50}, {1, -80}, {2, -50}};
-  for (const Caso& c : casi) {
-    NodoGeometria g;
-    g.n.Corrente.Tipo = c.tipo;
-    g.Asta(1, 45, 0);
-    g.Esegui();
-    EXPECT_EQ(g.Lato(1).YP[1], c.y1) << c.tipo;
-  }
-}
-
 TEST(GeometriaLati, InterseziLatiConLaDirezioneDiAngoloSegmento) {
   NodoGeometria g;
   g.Asta(1, 45, 0);
@@ -276,7 +262,7 @@ TEST(GeometriaLati, InterseziLatiConLaDirezioneDiAngoloSegmento) {
   EXPECT_NEAR(verso_destra[1].y, -99.965, 1e-9);
 }
 
-TEST(GeometriaSaldature, InserimentoSuiDueBordiESaldaturaCorrente) {
+TEST(GeometriaSaldature, InserimentoSuiDueBordi) {
   NodoGeometria g;
   g.Asta(1, 45, 0);
   g.n.Ast_ins[1] = 120;
@@ -289,12 +275,6 @@ TEST(GeometriaSaldature, InserimentoSuiDueBordiESaldaturaCorrente) {
   EXPECT_EQ(g.n.Saldature(2, 1).Sld_L, 80);
   EXPECT_EQ(g.n.Saldature(2, 2).Sld_L, 80);
   EXPECT_EQ(g.n.Saldature(3, 2).Sld_L, 90);
-  // The chord weld: the gusset along the chord, 100 + 200 + 200 + 100.
-  EXPECT_EQ(g.n.Saldature(4, 1).Sld_L, 600);
-  // LunghOltre = max(g + h, e + f) = max(200, 250) with f = 150.
-  g.n.Fz_f = 150;
-  g.Esegui();
-  EXPECT_EQ(g.s.geometria.LunghOltre, 250);
 }
 
 }  // namespace

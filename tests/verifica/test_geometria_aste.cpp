@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 
 #include "test_geometria_prova.h"
 
@@ -22,128 +23,97 @@ void SenzaC(NodoGeometria& g) {
   g.n.Fz_c = 0;
 }
 
-TEST(GeometriaAste, VerticaleSchienaVersoLInterno) {
-  // 90 degrees, lato 0, P = -1: Pend 0, Quota(1) = (-P) dx = 15, Quota(2) = (h - dx) P = -45.
-  NodoGeometria g;
-  SenzaC(g);
-  g.Asta(1, 90, 0);
-  g.Esegui();
-  const Saldatura& b1 = g.n.Saldature(1, 1);
-  const Saldatura& b2 = g.n.Saldature(1, 2);
-  EXPECT_EQ(b1.Pend, 0);
-  EXPECT_EQ(b2.Pend, 0);
-  EXPECT_EQ(b1.Quota, 15);
-  EXPECT_EQ(b2.Quota, -45);
-  // x = 15 meets side 2 at y = 15 - 250 = -235 (21.2 from C3, 120.2 from C2, side 141.4);
-  // x = -45 meets side 2 at -295, 205 from C2: off it; side 3 at (-45, -250).
-  EXPECT_EQ(b1.Lato, 2);
-  EXPECT_EQ(b2.Lato, 3);
-  AttesoPunto(b1, 4, 15, -235, "1");
-  AttesoPunto(b2, 4, -45, -250, "2");
-  // a = (0, -1), n = (1, 0), L 100, h 60: T1 = (15 - 60, -235 + 100) = (-45, -135),
-  // T2 = (-45, -250 + 100) = (-45, -150). |T2| > |T1|: edge 1 places the cut at y = -135.
-  AttesoPunto(b1, 1, 15, -135, "1");
-  AttesoPunto(b2, 1, -45, -135, "2");
-  AttesoPunto(b1, 2, 15, -235, "1");
-  AttesoPunto(b2, 2, -45, -235, "2");  // T1 + L a: edge 2's own crossing gives way
-  // LunghOltre = max(200, 200): edge 1 point 3 = (15, -235 - 200), edge 2 h to the left.
-  AttesoPunto(b1, 3, 15, -435, "1");
-  AttesoPunto(b2, 3, -45, -435, "2");
-  // Spread w = 100 tan 30 = 57.735: (15 + 57.735, -135) and (-45 - 57.735, -135). The line
-  // y = -135 meets side 1 at (100, -135), 202.7 from the second point, more than the 175.47
-  // between them: no cut. Beff = 60 + 2 * 57.735 = 175.470.
-  AttesoPunto(b1, 5, 15 + kW100, -135, "1");
-  AttesoPunto(b2, 5, -45 - kW100, -135, "2");
-  EXPECT_NEAR(g.s.geometria.Beff[1], 175.47005383792515, kTollGeom);
-}
+constexpr double kNo = std::numeric_limits<double>::quiet_NaN();  // not checked
 
-TEST(GeometriaAste, VerticaleSchienaVersoLEsternoTagliataDalContorno) {
-  // lato 1: Quota(1) = (h - dx)(-P) = 45, Quota(2) = P dx = -15.
-  NodoGeometria g;
-  SenzaC(g);
-  g.Asta(1, 90, 1);
-  g.Esegui();
-  const Saldatura& b1 = g.n.Saldature(1, 1);
-  const Saldatura& b2 = g.n.Saldature(1, 2);
-  EXPECT_EQ(b1.Quota, 45);
-  EXPECT_EQ(b2.Quota, -15);
-  // x = 45 on side 2 at y = -205 (63.6 from C3, 77.8 from C2); x = -15 on side 3 (side 2 at
-  // -265 is 162.6 from C2).
-  EXPECT_EQ(b1.Lato, 2);
-  EXPECT_EQ(b2.Lato, 3);
-  AttesoPunto(b1, 2, 45, -205, "1");
-  // T1 = (45 - 60, -205 + 100) = (-15, -105), T2 = (-15, -150): the cut at y = -105.
-  AttesoPunto(b1, 1, 45, -105, "1");
-  AttesoPunto(b2, 1, -15, -105, "2");
-  AttesoPunto(b2, 2, -15, -205, "2");
-  AttesoPunto(b1, 3, 45, -405, "1");
-  AttesoPunto(b2, 3, -15, -405, "2");
-  // Spread: (45 + 57.735, -105) and (-15 - 57.735, -105), 175.47 apart. Side 1 (x = 100) meets
-  // y = -105 at (100, -105): 2.735 and 172.735 from the ends, both less: the first point moves
-  // there and Beff = 100 + 72.735 = 172.735.
-  AttesoPunto(b1, 5, 100, -105, "1");
-  AttesoPunto(b2, 5, -15 - kW100, -105, "2");
-  EXPECT_NEAR(g.s.geometria.Beff[1], 172.73502691896257, kTollGeom);
-}
+// Member A alone (h 60, dx 15, inserted 100; a its direction, n its normal): edge lines,
+// crossings with the gusset, profile ends and the spread of both edges.
+struct CasoBordi {
+  const char* nome;
+  struct {
+    bool senzaC;
+    double gradi;
+    int lato;
+    double pend, quota1, quota2;
+    int lato1, lato2;  // the sides crossed by edges 1 and 2
+    double beff;
+  } dati;
+  double punti[2][5][2];  // points 1..5 (x, y) of edges 1 and 2
+};
 
-TEST(GeometriaAste, InclinataA45SchienaVersoLInterno) {
-  // 45 degrees: Pend = -tan 45 = -1, cos 45 = sqrt2 / 2, Quota(1) = 15 / cos = 15 sqrt2 =
-  // 21.2132, Quota(2) = (-60 + 15) / cos = -45 sqrt2 = -63.6396.
-  NodoGeometria g;
-  g.Asta(1, 45, 0);
-  g.Esegui();
-  const Saldatura& b1 = g.n.Saldature(1, 1);
-  const Saldatura& b2 = g.n.Saldature(1, 2);
-  EXPECT_NEAR(b1.Pend, -1, 1e-12);
-  EXPECT_NEAR(b2.Pend, -1, 1e-12);
-  EXPECT_NEAR(b1.Quota, 15 * kR2, kTollGeom);
-  EXPECT_NEAR(b2.Quota, -45 * kR2, kTollGeom);
-  // Edge 1 y = -x + 15 sqrt2 and side 2 y = x - 450: x = 225 + 7.5 sqrt2 = 235.6066,
-  // y = -214.3934 (91.1 from C2, 50.4 from C3). Edge 2 y = -x - 45 sqrt2 meets side 2 at
-  // x = 193.18, 151.1 from C2 (off), and side 3 at x = 250 - 45 sqrt2 = 186.3604.
-  EXPECT_EQ(b1.Lato, 2);
-  EXPECT_EQ(b2.Lato, 3);
-  AttesoPunto(b1, 4, 235.6066017177982, -214.3933982822018, "1");
-  AttesoPunto(b2, 4, 186.36038969321072, -250, "2");
-  // a = (sqrt2/2, -sqrt2/2), n = (sqrt2/2, sqrt2/2): T1 = E1 - 100 a - 60 n = (225 - 72.5
-  // sqrt2, -225 + 27.5 sqrt2), |T1| = 222.79; T2 = E2 - 100 a = (250 - 95 sqrt2, -250 + 50
-  // sqrt2), |T2| = 213.35. |T2| is not greater: edge 2 places the cut at T2.
-  AttesoPunto(b2, 1, 250 - 95 * kR2, -250 + 50 * kR2, "2");
-  AttesoPunto(b1, 1, 250 - 65 * kR2, -250 + 80 * kR2, "1");  // T2 + 60 n
-  AttesoPunto(b1, 2, 250 - 15 * kR2, -250 + 30 * kR2, "1");  // + 100 a: short of E1
-  AttesoPunto(b2, 2, 250 - 45 * kR2, -250, "2");
-  AttesoPunto(b2, 3, 250 + 55 * kR2, -250 - 100 * kR2, "2");  // E2 + 200 a
-  AttesoPunto(b1, 3, 250 + 85 * kR2, -250 - 70 * kR2, "1");   // + 60 n
-  // Spread: 57.735 n = (40.8248, 40.8248) on point 1 of edge 1 and minus on edge 2. The line
-  // between them, y = x - 294.94, meets side 3 at x = 44.94, 217.7 from the first point: no cut.
-  AttesoPunto(b1, 5, 198.90094749213512, -96.0380859637661, "1");
-  AttesoPunto(b2, 5, 74.82488252816967, -220.11415092773154, "2");
-  EXPECT_NEAR(g.s.geometria.Beff[1], 175.47005383792515, kTollGeom);
-}
+const CasoBordi kBordi[] = {
+    // 90 degrees, lato 0, P = -1: Quota (-P) dx = 15 and (h - dx) P = -45. x = 15 meets side 2
+    // at y = -235; x = -45 misses it (-295 is 205 from C2) and meets side 3 at -250.
+    // T1 = (15 - 60, -235 + 100), T2 = (-45, -150): |T2| > |T1|, edge 1 places the cut at
+    // y = -135; points 2 at T1 + L a (edge 2's own crossing gives way), points 3 at the
+    // crossing + LunghOltre 200. Spread 57.735 either side of y = -135; side 1 meets it at
+    // (100, -135), farther than the 175.47 between the ends: Beff = 60 + 2 x 57.735.
+    {"verticale, schiena verso l'interno",
+     {true, 90, 0, 0, 15, -45, 2, 3, 175.47005383792515},
+     {{{15, -135}, {15, -235}, {15, -435}, {15, -235}, {15 + kW100, -135}},
+      {{-45, -135}, {-45, -235}, {-45, -435}, {-45, -250}, {-45 - kW100, -135}}}},
+    // lato 1: Quota (h - dx)(-P) = 45, P dx = -15; crossings (45, -205) and side 3; T1 =
+    // (-15, -105), T2 = (-15, -150): the cut at y = -105. Side 1 meets the spread at (100, -105),
+    // 2.735 and 172.735 from its ends: the first point moves there, Beff = 100 + 72.735.
+    {"verticale, schiena verso l'esterno, tagliata dal contorno",
+     {true, 90, 1, kNo, 45, -15, 2, 3, 172.73502691896257},
+     {{{45, -105}, {45, -205}, {45, -405}, {kNo, kNo}, {100, -105}},
+      {{-15, -105}, {-15, -205}, {-15, -405}, {kNo, kNo}, {-15 - kW100, -105}}}},
+    // 45 degrees: Pend -tan 45, Quota 15 / cos 45 = 15 sqrt2 and -45 sqrt2. Edge 1 meets side 2
+    // (y = x - 450) at x = 225 + 7.5 sqrt2; edge 2 misses it (151.1 from C2) and meets side 3 at
+    // x = 250 - 45 sqrt2. |T1| = 222.79, |T2| = 213.35: |T2| is not greater, so edge 2 places
+    // the cut at T2 = E2 - 100 a, edge 1's at T2 + 60 n; points 2 at + 100 a, points 3 at
+    // E2 + 200 a (+ 60 n). Spread 57.735 n = (40.8248, 40.8248) either side: the line
+    // y = x - 294.94 meets side 3 at x = 44.94, 217.7 away: no cut.
+    {"45 gradi, schiena verso l'interno",
+     {false, 45, 0, -1, 15 * kR2, -45 * kR2, 2, 3, 175.47005383792515},
+     {{{250 - 65 * kR2, -250 + 80 * kR2},
+       {250 - 15 * kR2, -250 + 30 * kR2},
+       {250 + 85 * kR2, -250 - 70 * kR2},
+       {235.6066017177982, -214.3933982822018},
+       {198.90094749213512, -96.0380859637661}},
+      {{250 - 95 * kR2, -250 + 50 * kR2},
+       {250 - 45 * kR2, -250},
+       {250 + 55 * kR2, -250 - 100 * kR2},
+       {186.36038969321072, -250},
+       {74.82488252816967, -220.11415092773154}}}},
+    // lato 1: Quota (60 - 15) / cos 45 = 45 sqrt2 and -15 sqrt2; both edges meet side 2, square
+    // to the member, at x = (450 + 45 sqrt2) / 2 and (450 - 15 sqrt2) / 2; T1 = T2 =
+    // (225 - 57.5 sqrt2, -225 + 42.5 sqrt2): both cuts 100 inside the same side.
+    {"45 gradi, schiena verso l'esterno",
+     {false, 45, 1, kNo, 45 * kR2, -15 * kR2, 2, 2, 175.47005383792515},
+     {{{225 - 27.5 * kR2, -225 + 72.5 * kR2},
+       {225 + 22.5 * kR2, -225 + 22.5 * kR2},
+       {225 + 122.5 * kR2, -225 - 77.5 * kR2},
+       {kNo, kNo},
+       {226.93395608112618, -81.6446876815643}},
+      {{225 - 57.5 * kR2, -225 + 42.5 * kR2},
+       {225 - 7.5 * kR2, -225 - 7.5 * kR2},
+       {225 + 92.5 * kR2, -225 - 107.5 * kR2},
+       {kNo, kNo},
+       {102.85789111716073, -205.72075264552976}}}},
+};
 
-TEST(GeometriaAste, InclinataA45SchienaVersoLEsterno) {
-  // lato 1: Quota(1) = (60 - 15) / cos 45 = 45 sqrt2, Quota(2) = -15 / cos 45 = -15 sqrt2.
-  NodoGeometria g;
-  g.Asta(1, 45, 1);
-  g.Esegui();
-  const Saldatura& b1 = g.n.Saldature(1, 1);
-  const Saldatura& b2 = g.n.Saldature(1, 2);
-  EXPECT_NEAR(b1.Quota, 45 * kR2, kTollGeom);
-  EXPECT_NEAR(b2.Quota, -15 * kR2, kTollGeom);
-  // Both edges meet side 2 (y = x - 450), which is square to the member:
-  // x = (450 + 45 sqrt2) / 2 = 256.8198 and x = (450 - 15 sqrt2) / 2 = 214.3934.
-  EXPECT_EQ(b1.Lato, 2);
-  EXPECT_EQ(b2.Lato, 2);
-  AttesoPunto(b1, 2, 225 + 22.5 * kR2, -225 + 22.5 * kR2, "1");
-  AttesoPunto(b2, 2, 225 - 7.5 * kR2, -225 - 7.5 * kR2, "2");
-  // T1 = T2 = (225 - 57.5 sqrt2, -225 + 42.5 sqrt2): both cuts 100 inside the same side.
-  AttesoPunto(b1, 1, 225 - 27.5 * kR2, -225 + 72.5 * kR2, "1");
-  AttesoPunto(b2, 1, 225 - 57.5 * kR2, -225 + 42.5 * kR2, "2");
-  AttesoPunto(b1, 3, 225 + 122.5 * kR2, -225 - 77.5 * kR2, "1");  // E1 + 200 a
-  AttesoPunto(b2, 3, 225 + 92.5 * kR2, -225 - 107.5 * kR2, "2");  // - 60 n
-  AttesoPunto(b1, 5, 226.93395608112618, -81.6446876815643, "1");
-  AttesoPunto(b2, 5, 102.85789111716073, -205.72075264552976, "2");
-  EXPECT_NEAR(g.s.geometria.Beff[1], 175.47005383792515, kTollGeom);
+TEST(GeometriaAste, BordiIncrociEstremiEDiffusione) {
+  for (const CasoBordi& c : kBordi) {
+    SCOPED_TRACE(c.nome);
+    NodoGeometria g;
+    if (c.dati.senzaC) SenzaC(g);
+    g.Asta(1, c.dati.gradi, c.dati.lato);
+    g.Esegui();
+    const Saldatura* b[2] = {&g.n.Saldature(1, 1), &g.n.Saldature(1, 2)};
+    for (int e = 0; e < 2; ++e) {
+      if (!std::isnan(c.dati.pend)) {
+        EXPECT_NEAR(b[e]->Pend, c.dati.pend, 1e-12);
+      }
+      EXPECT_NEAR(b[e]->Quota, e ? c.dati.quota2 : c.dati.quota1, kTollGeom);
+      EXPECT_EQ(b[e]->Lato, e ? c.dati.lato2 : c.dati.lato1);
+      for (int k = 1; k <= 5; ++k) {
+        const double* p = c.punti[e][k - 1];
+        if (!std::isnan(p[0])) AttesoPunto(*b[e], k, p[0], p[1], e ? "2" : "1");
+      }
+    }
+    EXPECT_NEAR(g.s.geometria.Beff[1], c.dati.beff, kTollGeom);
+  }
 }
 
 TEST(GeometriaAste, IlSegnoDiPSoloSuiBordiVerticali) {

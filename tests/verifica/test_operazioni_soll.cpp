@@ -218,21 +218,6 @@ TEST(RiduciMaxMin, TieneMassimiEMinimiDaiValoriIniziali) {
         {150, 0.00005, 0, 0, "S4"},
         {150, 0.00005, 0, 0, "S5"}},
        4},
-      // A only, case II: start 20; A 10..30: S2 (10) and S5 (30) are kept. The names of rows 1
-      // and 2 stay S1 and S2; rows 3..5 keep their forces, cases and names.
-      {"sets 2 and 5 kept: the names are those of rows 1 and 2",
-       {1, 0, 0},
-       {{20, 1, 0, 1, "S1"},
-        {10, 2, 0, 1, "S2"},
-        {15, 3, 0, 1, "S3"},
-        {18, 4, 0, 1, "S4"},
-        {30, 5, 0, 1, "S5"}},
-       {{10, 2, 0, 1, "S1"},
-        {30, 5, 0, 1, "S2"},
-        {15, 3, 0, 1, "S3"},
-        {18, 4, 0, 1, "S4"},
-        {30, 5, 0, 1, "S5"}},
-       2},
       // Repeated sets go first, with their names: S3 repeats S2, leaving S1 10, S2 30, S4 20
       // and an empty name in row 4. Then A 10..30 keeps rows 1 and 2; row 3 keeps S4.
       {"duplicates are removed before the extremes",

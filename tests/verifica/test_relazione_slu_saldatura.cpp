@@ -39,32 +39,6 @@ constexpr char kIntestazione[] =
     "Nome                |     S_prp|    Tau_pa|    Tau_pe|     SEq-1|     SEq-2|    SLim-1|"
     "    SLim-2|Ver|\r\n";
 
-// The heading names the chord's section with no mode, shows the weld and leaves the chord's
-// bolts out, as the checks do; the gusset's strength is the thick plate's.
-TEST_F(RelazioneSLUSaldatura, TestataSenzaBulloniDelCorrente) {
-  Tensioni(0, 0, 0);
-  ASSERT_TRUE(Esegui());
-  const std::string t = Relazione();
-  EXPECT_NE(t.find("\r\nCorr. |HEA 200             |-      |    190.|    200.|     6.5|     10.|"
-                   "    -10.|       -|\r\n"),
-            std::string::npos);
-  EXPECT_NE(t.find("\r\n   1|    200.|    300.|     50.|\r\n"
-                   "\r\nSALDATURA CORRENTE (n\u00b0 1)\r\n"
-                   "Nome                |   Lungh|    Lato|\r\n"
-                   "Sald. corrente      |    300.|      5.|\r\n"
-                   "\r\nBULLONI\r\nAsta A (n\u00b0 3)\r\n"),
-            std::string::npos)
-      << t;
-  EXPECT_EQ(t.find("Corrente (n"), std::string::npos);
-  EXPECT_EQ(t.find("Bulloni corrente"), std::string::npos);
-  EXPECT_NE(t.find("Sezione sotto corrente:\r\n       Sig|        fd|Ver|\r\n"
-                   "     500.4|    15000.|SI'|\r\n"),
-            std::string::npos);
-  // The weld comes after the section under the chord and before the profiles.
-  EXPECT_LT(t.find("Sezione sotto corrente:"), t.find("Saldatura corrente\r\n"));
-  EXPECT_LT(t.find("Saldatura corrente\r\n"), t.find("Verifica profili"));
-}
-
 // Coefficients by the grade found anywhere in the steel's name: 235 gives 0.85 and 1.0; 275 or
 // 355 give 0.7 and 0.85; 420, 450 or 460 give 0.62 and 0.75; limits on the yield strength 2000.
 // SEq-1 = sqrt(tn^2 + s^2 + tp^2), SEq-2 = |tn| + |s|; all shown x 10.
@@ -116,14 +90,6 @@ TEST_F(RelazioneSLUSaldatura, CoefficientiPerGradoNelNome) {
     EXPECT_NEAR(verdetti.RapportoSaldatura[1], c.rapporto, 1e-12);
     EXPECT_EQ(p.messaggi.size(), 1u) << "set 2 fails in any case";
   }
-}
-
-TEST_F(RelazioneSLUSaldatura, TensioniEquivalentiNellaSaldatura) {
-  Tensioni(-24, 0, -7);
-  ASSERT_TRUE(Esegui());
-  const Saldatura& w = s.nodo.Saldature(4, 1);
-  EXPECT_EQ(w.SEq1[1], 25);
-  EXPECT_EQ(w.SEq2[1], 31);
 }
 
 // A steel of no known grade has no coefficients: the weld line says it cannot be checked and

@@ -36,24 +36,6 @@ class RelazioneTASaldatura : public RelazioneTAPiccola {
 constexpr const char* kTitoliSaldatura =
     "\r\n\tSaldatura corrente\r\n\tNome\tS_prp\tTau_pa\tTau_pe\t% su adm\r\n";
 
-TEST_F(RelazioneTASaldatura, TestataEBloccoDelCorrenteSaldato) {
-  Sollecita(0);
-  ASSERT_TRUE(Esegui());
-  std::string t = Relazione();
-  EXPECT_NE(t.find("\tCorr.\tHEA200\t-\t\t 190\t 200\t 6.5\t 10\t-10\t-\r\n"), std::string::npos);
-  EXPECT_NE(t.find("\t 1\t 200\t 300\t 10\r\n\r\nSALDATURA CORRENTE\r\n\r\n\tNome\tLungh.\tLato\r\n"
-                   "\tS1\t 300\t 5\r\nBULLONI\r\nCorrente: n\u00b0 0\r\n"),
-            std::string::npos);
-  // No bolt lines of the chord in the set: members A and B only.
-  EXPECT_NE(t.find("\tTensione massima\t 12342\r\n\r\n\tVerifica bulloni\r\n"), std::string::npos);
-  EXPECT_NE(t.find("\t 1\t 15008\r\n\r\n\tVerifica profili\r\n"), std::string::npos);
-  EXPECT_EQ(t.find("\tCorrente \r\n"), std::string::npos);
-  // The chord's section is still shown.
-  EXPECT_NE(t.find("\tCorrente\r\n\tTensione ideale\t 3464\r\n"), std::string::npos);
-  EXPECT_EQ(BloccoSaldatura(), std::string(kTitoliSaldatura) + "\tS1\t 0\t 0\t 0\t 0\r\n");
-  EXPECT_TRUE(verdetti.SetOk[1]);
-}
-
 // The limit is c x SAmm whatever the gusset's thickness; the verdict takes the unrounded
 // ratio, so that 1.004 prints 1 and fails, and a weld over its limit has no failure line.
 TEST_F(RelazioneTASaldatura, RapportoELimite) {

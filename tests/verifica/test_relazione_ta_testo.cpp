@@ -10,24 +10,20 @@
 namespace qf17 {
 namespace {
 
-// After a TAB a number keeps the blank of its sign, and nothing follows it.
+// After a TAB a number keeps the blank of its sign, and nothing follows it; the plain figures
+// are those of the sample reports, here the edges.
 TEST(TestoRelazione, NumeriDopoUnTab) {
   struct Caso {
     double valore;
     const char* atteso;
   };
   const Caso casi[] = {
-      {0, "\t 0\t\r\n"},
       {-0.0, "\t 0\t\r\n"},
-      {12.5, "\t 12.5\t\r\n"},
-      {-3, "\t-3\t\r\n"},
       {0.1 + 0.2, "\t 0.3\t\r\n"},
       {1e20, "\t 1E+20\t\r\n"},
-      {201.06, "\t 201.06\t\r\n"},
       {-20002.5, "\t-20002.5\t\r\n"},
       {999999999999999, "\t 999999999999999\t\r\n"},
       {1e15, "\t 1E+15\t\r\n"},
-      {-2000, "\t-2000\t\r\n"},
       {1e-7, "\t 1E-07\t\r\n"},
   };
   for (const Caso& c : casi) {

@@ -112,16 +112,5 @@ TEST(Saldatura, AcciaioSconosciuto) {
   }
 }
 
-// SEq1 = sqrt(1200^2 + 300^2 + 400^2) = 1300; SEq2 = |tn| + |s| = 1500.
-TEST(Saldatura, TensioniEquivalenti) {
-  ProvaSaldatura p("S 235 (FE 360)");
-  p.Tensioni(-300, 400, -1200);
-  TensioniEqSaldatura(p.sessione, 3, 4, 1);
-  const Saldatura& w = p.sessione.nodo.Saldature(4, 1);
-  EXPECT_DOUBLE_EQ(w.SEq1[3], 1300);
-  EXPECT_DOUBLE_EQ(w.SEq2[3], 1500);
-  EXPECT_EQ(w.SEq1[2], 0);
-}
-
 }  // namespace
 }  // namespace qf17
