@@ -9,21 +9,13 @@
 #include "nodo/sessione.h"
 #include "piattaforma/errori.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "quote_prova.h"
 
 namespace qf17 {
 namespace {
 
-class ArchivioDisegnoTest : public ::testing::Test {
+class ArchivioDisegnoTest : public ::testing::Test, public prova::SessioneQuote {
  protected:
-  void SetUp() override {
-    a.DestinazioneDisegno = "gendis";
-    AzzeraDisegno(a);
-    AzzeraEstensioni(a);
-  }
-
-  PiattaformaRegistrata p;
-  Sessione s{p};
-  ArchivioDisegno& a = s.disegno;
   TabelleDisegno& t = a.Tabelle();
 };
 

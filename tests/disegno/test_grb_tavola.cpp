@@ -19,6 +19,7 @@
 #include "nodo/file_nodo.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "quote_prova.h"
 
 namespace qf17 {
 namespace {
@@ -27,12 +28,9 @@ namespace fs = std::filesystem;
 
 const fs::path kModello = fs::path(QF17_SORGENTI) / "installazione" / "custom" / "cad2dmodello.grb";
 
-class TavolaGrbTest : public ::testing::Test {
+class TavolaGrbTest : public ::testing::Test, public prova::SessioneQuote {
  protected:
   void SetUp() override {
-    AzzeraDisegno(s.disegno);
-    AzzeraEstensioni(s.disegno);
-    s.disegno.DestinazioneDisegno = "gendis";
     // Option sizes all different, so that a size tells where it came from.
     const double dimensioni[] = {3, 4, 5, 6, 7, 8};  // rows 7 to 12
     for (int i = 0; i < 6; ++i) s.opzioni[7 + i] = dimensioni[i];
@@ -41,8 +39,6 @@ class TavolaGrbTest : public ::testing::Test {
   double X(std::int32_t i) const { return T().CoordX[i]; }
   double Y(std::int32_t i) const { return T().CoordY[i]; }
 
-  PiattaformaRegistrata p;
-  Sessione s{p};
   TavolaGrb t{s};
 };
 

@@ -58,14 +58,7 @@ class TavolaProfili : public Tavola {
 };
 
 // A session drawing into an empty store, with its sheet.
-struct DisegnoProva {
-  DisegnoProva() {
-    s.disegno.DestinazioneDisegno = "gendis";
-    AzzeraDisegno(s.disegno);
-    AzzeraEstensioni(s.disegno);
-  }
-  PiattaformaRegistrata p;
-  Sessione s{p};
+struct DisegnoProva : SessioneQuote {
   TavolaProfili t{s};
 };
 

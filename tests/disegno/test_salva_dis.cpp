@@ -13,19 +13,14 @@
 #include "disegno/formati/salva_svg.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "quote_prova.h"
 #include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
 
-class SalvaDisTest : public ::testing::Test {
+class SalvaDisTest : public ::testing::Test, public prova::SessioneQuote {
  protected:
-  void SetUp() override {
-    a.DestinazioneDisegno = "gendis";
-    AzzeraDisegno(a);
-    AzzeraEstensioni(a);
-  }
-
   std::string File(const std::string& nome) const { return (cartella.percorso() / nome).string(); }
 
   // A gusset-sized sketch: an outline, a dashed line on its bottom edge, a dash-dot axis, a
@@ -52,9 +47,6 @@ class SalvaDisTest : public ::testing::Test {
     DisegnaLinea(s, -110, -60, -99.75, -49.5, 6);
   }
 
-  PiattaformaRegistrata p;
-  Sessione s{p};
-  ArchivioDisegno& a = s.disegno;
   TabelleDisegno& t = a.Tabelle();
   prova::CartellaProva cartella;
 };
