@@ -89,30 +89,6 @@ TEST_F(QuotaTest, QuotaNullaNonDisegna) {
   EXPECT_EQ(a.EstMaxY, 7);
 }
 
-// In a chain a text longer than its dimension ("10" is 16 on 10) goes to the far side
-// (-10 - 8), the next such to the near side (10); one that fits resets the turn. Outside a chain
-// nothing alternates. Colours from options 3 (texts) and 4 (lines).
-TEST_F(QuotaTest, CatenaAlternaITestiCorti) {
-  s.opzioni[3] = 2;
-  s.opzioni[4] = 5;
-  TavolaDis tavola(s);
-  QuotaCatena(tavola, {{0, 0}, {10, 0}, {20, 0}, {200, 0}, {210, 0}, {220, 0}, {230, 0}});
-  EXPECT_EQ(a.QuotaAlterna, 0);
-  std::vector<double> y;
-  for (const auto& t : Testi(a)) {
-    y.push_back(t.punto.y);
-    EXPECT_EQ(t.colore, 2);
-  }
-  EXPECT_EQ(y, (std::vector<double>{-18, 10, 10, -18, 10, -18}));
-  EXPECT_DOUBLE_EQ(Testi(a)[0].punto.x, 5 - 16 / 2);
-  for (const auto& l : Linee(a)) EXPECT_EQ(l.colore, 5);
-  AzzeraDisegno(a);
-  tavola.Quota("", 0, 10, 0, 0, 10, 1);
-  tavola.Quota("", 10, 20, 0, 0, 10, 1);
-  EXPECT_DOUBLE_EQ(Testi(a)[0].punto.y, 10);
-  EXPECT_DOUBLE_EQ(Testi(a)[1].punto.y, 10);
-}
-
 TEST(OrdinaPunti, CrescentiSullAsseScelto) {
   std::vector<Punto> punti{{3, 1}, {1, 3}, {2, 2}, {1, 0}};
   OrdinaPunti(punti, Asse::X);
