@@ -3,6 +3,7 @@
 // What the tests of the gusset detail and of the sheet composition share: a DIS sheet that also
 // records what was asked of it, readers of the drawing store, and a small node written by hand.
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <string>
@@ -96,6 +97,16 @@ inline std::vector<CerchioLetto> Cerchi(const ArchivioDisegno& a) {
     r.push_back({c, std::hypot(p.x - c.x, p.y - c.y)});
   }
   return r;
+}
+
+// How far a number's box (its characters' cells, one text height up from its baseline, moved by
+// the drawing's origin) stands clear of a hole's edge; negative where they overlap.
+inline double MargineDalForo(const ChiamataTavola& c, double w, double h, const CerchioLetto& f) {
+  const double x1 = c.x1 + c.origineX, y1 = c.y1 + c.origineY;
+  const double x2 = x1 + static_cast<double>(c.testo.size()) * w, y2 = y1 + h;
+  const double dx = std::max({x1 - f.centro.x, 0.0, f.centro.x - x2});
+  const double dy = std::max({y1 - f.centro.y, 0.0, f.centro.y - y2});
+  return std::hypot(dx, dy) - f.raggio;
 }
 
 // The session's drawing made the target and emptied, as the export does before composing.

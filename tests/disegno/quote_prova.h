@@ -84,7 +84,8 @@ inline void AttesoPunto(Punto p, double x, double y, const std::string& dove) {
 }
 
 // A session whose drawing is the target, empty, with its extents reset and the options of a
-// fresh installation: dimension texts 8 x 8 at 10 from the line, indicators 5, arrows.
+// fresh installation: dimension texts 8 x 8 at 10 from the line, indicators 5, arrows. Shared
+// by the tests of the store, its writers and the sheets.
 struct SessioneQuote {
   SessioneQuote() {
     a.DestinazioneDisegno = "gendis";

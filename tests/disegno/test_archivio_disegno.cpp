@@ -9,21 +9,13 @@
 #include "nodo/sessione.h"
 #include "piattaforma/errori.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "quote_prova.h"
 
 namespace qf17 {
 namespace {
 
-class ArchivioDisegnoTest : public ::testing::Test {
+class ArchivioDisegnoTest : public ::testing::Test, public prova::SessioneQuote {
  protected:
-  void SetUp() override {
-    a.DestinazioneDisegno = "gendis";
-    AzzeraDisegno(a);
-    AzzeraEstensioni(a);
-  }
-
-  PiattaformaRegistrata p;
-  Sessione s{p};
-  ArchivioDisegno& a = s.disegno;
   TabelleDisegno& t = a.Tabelle();
 };
 
@@ -115,32 +107,14 @@ TEST_F(ArchivioDisegnoTest, LineeDegeneriNonArrivanoAllaTabella) {
   }
 }
 
-TEST_F(ArchivioDisegnoTest, LineaConOrigineStileEColore) {
-  a.OrigineX = 100;
-  a.OrigineY = -50;
-  struct Caso {
-    std::int16_t stile, colore, tipo, coloreAtteso;
-  };
-  // Style 2 is no style: the row keeps what the line before it left there.
-  for (const Caso c : {Caso{0, 0, 0, 1}, Caso{1, 5, 4, 5}, Caso{3, 7, 1, 7}}) {
-    SCOPED_TRACE(c.stile);
-    AzzeraDisegno(a);
-    t.LinTipo[0] = 99;
-    a.StileLinea = c.stile;
-    DisegnaLinea(s, 1, 2, 3, 4, c.colore);
-    ASSERT_EQ(a.NumLinee, 1);
-    EXPECT_EQ(t.LinTipo[0], c.tipo);
-    EXPECT_EQ(t.LinColore[0], c.coloreAtteso);
-    EXPECT_EQ(t.CoordX[t.LinP1[0]], 101);
-    EXPECT_EQ(t.CoordY[t.LinP1[0]], -48);
-    EXPECT_EQ(t.CoordX[t.LinP2[0]], 103);
-    EXPECT_EQ(t.CoordY[t.LinP2[0]], -46);
-  }
+// Style 2, or one out of the table, is no style: the row keeps the type the line before it left
+// there; colour 0 is stored as 1.
+TEST_F(ArchivioDisegnoTest, StileSconosciutoLasciaIlTipo) {
   for (std::int16_t stile : {2, 7, -1}) {
     AzzeraDisegno(a);
     t.LinTipo[0] = 4;
     a.StileLinea = stile;
-    DisegnaLinea(s, 1, 2, 3, 4);
+    DisegnaLinea(s, 1, 2, 3, 4, 0);
     EXPECT_EQ(t.LinTipo[0], 4) << stile;
     EXPECT_EQ(t.LinColore[0], 1);
   }
@@ -157,60 +131,23 @@ TEST_F(ArchivioDisegnoTest, AltraDestinazioneNonRegistraNulla) {
   EXPECT_EQ(a.EstMaxX, -10000000000.0);
 }
 
-// Extents on the sheet and in the frame of a chord at 30 degrees: (x, y) enters as
-// (x cos t - y sin t, x sin t + y cos t). Texts and circles leave both alone.
-TEST_F(ArchivioDisegnoTest, EstensioniSulFoglioENelRiferimentoDelCorrente) {
-  s.nodo.Cor_teta = std::numbers::pi / 6;
-  a.OrigineX = 10;
-  a.OrigineY = 20;
-  DisegnaLinea(s, -10, -20, 0, -20);    // (0, 0) to (10, 0) on the sheet
-  DisegnaLinea(s, -10, -20, -10, -10);  // (0, 0) to (0, 10)
-  DisegnaCerchio(s, 500, 500, 100);
-  ScriviTesto(s, "lontano", -900, -900, 0, 5, 5);
-  EXPECT_EQ(a.EstMinX, 0);
-  EXPECT_EQ(a.EstMaxX, 10);
-  EXPECT_EQ(a.EstMinY, 0);
-  EXPECT_EQ(a.EstMaxY, 10);
-  const double r3 = std::sqrt(3.0);
-  EXPECT_NEAR(a.RuotMinX, -5, 1e-12);      // (0, 10): -10 sin 30
-  EXPECT_NEAR(a.RuotMaxX, 5 * r3, 1e-12);  // (10, 0): 10 cos 30
-  EXPECT_NEAR(a.RuotMinY, 0, 1e-12);       // (0, 0)
-  EXPECT_NEAR(a.RuotMaxY, 5 * r3, 1e-12);  // (0, 10): 10 cos 30
-}
-
+// The size given is the diameter; with no end angle the circle is whole, in the current colour,
+// 0 standing for 1; a diameter not above the tolerance draws nothing.
 TEST_F(ArchivioDisegnoTest, CerchiEArchi) {
   a.OrigineX = 1000;
   a.ColoreCorrente = 6;
-  DisegnaCerchio(s, 20, 10, 10);  // no end angle: a whole circle, in the current colour
-  ASSERT_EQ(a.NumArchi, 1);
-  EXPECT_EQ(t.ArcInizio[0], t.ArcFine[0]);
-  EXPECT_EQ(t.ArcCentro2[0], t.ArcCentro[0]);
-  EXPECT_EQ(t.CoordX[t.ArcCentro[0]], 1020);
-  EXPECT_EQ(t.CoordY[t.ArcCentro[0]], 10);
-  EXPECT_EQ(t.CoordX[t.ArcInizio[0]], 1025);  // the argument is the diameter
-  EXPECT_EQ(t.ArcColore[0], 6);
-  EXPECT_EQ(t.ArcTipo[0], 0);
-
-  DisegnaCerchio(s, 20, 10, 10, std::int16_t{0}, 0, std::numbers::pi / 2);
-  ASSERT_EQ(a.NumArchi, 2);
-  EXPECT_NE(t.ArcInizio[1], t.ArcFine[1]);
-  EXPECT_EQ(t.ArcCentro[1], t.ArcCentro[0]);
-  EXPECT_EQ(t.ArcInizio[1], t.ArcInizio[0]);
-  EXPECT_NEAR(t.CoordX[t.ArcFine[1]], 1020, 1e-12);
-  EXPECT_EQ(t.CoordY[t.ArcFine[1]], 15);
-  EXPECT_EQ(t.ArcColore[1], 1);  // colour 0 becomes 1
-
-  DisegnaCerchio(s, 20, 10, 20, std::int16_t{3}, std::numbers::pi);  // start angle, no end
-  ASSERT_EQ(a.NumArchi, 3);
-  EXPECT_EQ(t.ArcInizio[2], t.ArcFine[2]);
-  EXPECT_EQ(t.CoordX[t.ArcInizio[2]], 1010);
-  EXPECT_EQ(t.ArcColore[2], 3);
-
+  DisegnaCerchio(s, 20, 10, 10);
+  DisegnaCerchio(s, 20, 10, 20, std::int16_t{0}, std::numbers::pi);  // start angle, no end
   a.ColoreCorrente = 0;
   DisegnaCerchio(s, 0, 0, 1);
-  EXPECT_EQ(t.ArcColore[3], 1);
-  DisegnaCerchio(s, 0, 0, 0.0001);  // not above the tolerance: nothing
-  EXPECT_EQ(a.NumArchi, 4);
+  DisegnaCerchio(s, 0, 0, 0.0001);
+  ASSERT_EQ(a.NumArchi, 3);
+  EXPECT_EQ(t.CoordX[t.ArcInizio[0]], 1025);
+  EXPECT_EQ(t.ArcColore[0], 6);
+  EXPECT_EQ(t.ArcInizio[1], t.ArcFine[1]);
+  EXPECT_EQ(t.CoordX[t.ArcInizio[1]], 1010);
+  EXPECT_EQ(t.ArcColore[1], 1);
+  EXPECT_EQ(t.ArcColore[2], 1);
 }
 
 TEST_F(ArchivioDisegnoTest, TestiInDecimiArrotondatiAlPari) {

@@ -81,37 +81,30 @@ TEST_F(EsportaDisegnoTest, NomeVuotoNonAnnullatoEUnErrore) {
   EXPECT_EQ(p.cambiOccupato, 0);
 }
 
-TEST_F(EsportaDisegnoTest, FiltroDisScriveIlFileSottoIlPuntatoreOccupato) {
-  const fs::path file = lavoro / "ANGUPN.dis";
-  p.fileScelti.push_back(Scelta(file, 2));
-  EXPECT_TRUE(GeneraDisegno(s));
-  EXPECT_EQ(prova::LeggiTutto(file).substr(0, kTestaDis.size()), kTestaDis);
-  EXPECT_EQ(s.disegno.DestinazioneDisegno, "");
-  EXPECT_EQ(p.cambiOccupato, 2);
-  EXPECT_FALSE(p.occupato);
-  ASSERT_EQ(p.messaggi.size(), 1u);
-  EXPECT_EQ(p.messaggi[0].testo, "File " + file.string() + " salvato.");
-  EXPECT_EQ(p.messaggi[0].titolo, "SALVA FILE DISEGNO");
-}
-
-// Filter 1 is the GRB sheet, any other filter the DXF file, each under the busy pointer and
-// confirmed by its own writer.
-TEST_F(EsportaDisegnoTest, FiltriGrbEDxf) {
+// Filter 2 is the DIS sheet (under the busy pointer, on and off), 1 the GRB sheet, any other the
+// DXF file, each confirmed by its own writer; the store is no longer the target.
+TEST_F(EsportaDisegnoTest, FiltriDisGrbEDxf) {
   struct Caso {
     int filtro;
     std::string file, inizio, titolo;
   };
   const std::vector<Caso> casi = {
+      {2, "a.dis", kTestaDis, "SALVA FILE DISEGNO"},
       {1, "a.grb", "                   4\r\n                   5", "SALVA FILE DISEGNO"},
       {3, "a.dxf", " 0\r\nSECTION\r\n 2\r\nHEADER", "SALVA FILE DXF"}};
   for (const Caso& c : casi) {
+    SCOPED_TRACE(c.filtro);
     p.messaggi.clear();
     const fs::path file = lavoro / c.file;
     p.fileScelti.push_back(Scelta(file, c.filtro));
-    EXPECT_TRUE(GeneraDisegno(s)) << c.filtro;
+    EXPECT_TRUE(GeneraDisegno(s));
     EXPECT_EQ(prova::LeggiTutto(file).substr(0, c.inizio.size()), c.inizio);
+    EXPECT_EQ(s.disegno.DestinazioneDisegno, "");
+    if (c.filtro == 2) {
+      EXPECT_EQ(p.cambiOccupato, 2);
+    }
     EXPECT_FALSE(p.occupato);
-    ASSERT_EQ(p.messaggi.size(), 1u) << c.filtro;
+    ASSERT_EQ(p.messaggi.size(), 1u);
     EXPECT_EQ(p.messaggi[0].testo, "File " + file.string() + " salvato.");
     EXPECT_EQ(p.messaggi[0].titolo, c.titolo);
   }

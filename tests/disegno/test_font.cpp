@@ -109,40 +109,8 @@ TEST_F(FontTest, FileMancanteODannoso) {
   EXPECT_EQ(font_->FontNumPunti['A'], -1);
 }
 
-void ControllaTratto(const Tratto& t, double x1, double y1, double x2, double y2) {
-  EXPECT_NEAR(t.x1, x1, 1e-9);
-  EXPECT_NEAR(t.y1, y1, 1e-9);
-  EXPECT_NEAR(t.x2, x2, 1e-9);
-  EXPECT_NEAR(t.y2, y2, 1e-9);
-}
-
-TEST_F(FontTest, TrattiTestoConStrizioneEAngolo) {
-  // One stroke from (10, 30) to (60, 99). With narrowing 20, width 9.9 and height 6.9:
-  // sx = 9.9 / 99 x 0.8 = 0.08 and sy = 6.9 / 69 = 0.1, so the stroke spans 4 across and 6.9 up.
-  ASSERT_TRUE(LeggiFont(*font_, Scrivi("20\r\nL10306099\r\n\xE8"
-                                       "10306099\r\n")));
-
-  auto orizzontale = TrattiTesto(*font_, "LL", 100, 50, 0, 9.9, 6.9);
-  ASSERT_EQ(orizzontale.size(), 2u);
-  ControllaTratto(orizzontale[0], 100.8, 50, 104.8, 56.9);
-  ControllaTratto(orizzontale[1], 110.7, 50, 114.7, 56.9);  // the next cell starts 9.9 on
-
-  // At 90 degrees the glyph's X runs up and its height runs towards -X.
-  auto verticale = TrattiTesto(*font_, "LL", 100, 50, std::numbers::pi / 2, 9.9, 6.9);
-  ASSERT_EQ(verticale.size(), 2u);
-  ControllaTratto(verticale[0], 100, 50.8, 93.1, 54.8);
-  ControllaTratto(verticale[1], 100, 60.7, 93.1, 64.7);
-
-  // An absent character draws nothing but takes its cell; "è" is one character, not two bytes.
-  auto conAssente = TrattiTesto(*font_, "?L", 100, 50, 0, 9.9, 6.9);
-  ASSERT_EQ(conAssente.size(), 1u);
-  ControllaTratto(conAssente[0], 110.7, 50, 114.7, 56.9);
-  auto accentato = TrattiTesto(*font_, "èL", 100, 50, 0, 9.9, 6.9);
-  ASSERT_EQ(accentato.size(), 2u);
-  ControllaTratto(accentato[1], 110.7, 50, 114.7, 56.9);
-  EXPECT_TRUE(TrattiTesto(*font_, "", 0, 0, 0, 1, 1).empty());
-}
-
+// Every printable character and the accented ones have strokes inside the cell; how they are
+// drawn is pinned by the samples' SVG sheets.
 TEST_F(FontTest, IlFontDellInstallazioneHaTuttiICaratteri) {
   const fs::path file = fs::path(QF17_SORGENTI) / "installazione" / "progra" / "font.001";
   ASSERT_TRUE(LeggiFont(*font_, file));
@@ -162,16 +130,6 @@ TEST_F(FontTest, IlFontDellInstallazioneHaTuttiICaratteri) {
     }
   }
   EXPECT_EQ(font_->FontNumPunti[0x7F], -1);
-  // A capital stands on the baseline and reaches the top of the cell: height h is its height.
-  const auto& y = font_->FontY['E'];
-  const int n = font_->FontNumPunti['E'];
-  EXPECT_EQ(*std::min_element(y.begin(), y.begin() + n), 30);
-  EXPECT_EQ(*std::max_element(y.begin(), y.begin() + n), 99);
-  // The accent of "è" lies above the x-height of "e".
-  const auto& ye = font_->FontY['e'];
-  const auto& yAccentata = font_->FontY[0xE8];
-  EXPECT_GT(*std::max_element(yAccentata.begin(), yAccentata.begin() + font_->FontNumPunti[0xE8]),
-            *std::max_element(ye.begin(), ye.begin() + font_->FontNumPunti['e']) + 5);
 }
 
 // The family writes the diameter sign as "]" ("Fori ]20.5"), and the installation's font draws

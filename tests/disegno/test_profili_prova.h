@@ -3,10 +3,8 @@
 // What the profile drawing tests share: a sheet that records its texts and dimensions, and
 // readers of the drawing store.
 
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -60,14 +58,7 @@ class TavolaProfili : public Tavola {
 };
 
 // A session drawing into an empty store, with its sheet.
-struct DisegnoProva {
-  DisegnoProva() {
-    s.disegno.DestinazioneDisegno = "gendis";
-    AzzeraDisegno(s.disegno);
-    AzzeraEstensioni(s.disegno);
-  }
-  PiattaformaRegistrata p;
-  Sessione s{p};
+struct DisegnoProva : SessioneQuote {
   TavolaProfili t{s};
 };
 
@@ -97,23 +88,6 @@ inline std::vector<std::pair<Punto, int>> GradiVertici(const std::vector<LineaLe
     conta(a.fine);
   }
   return gradi;
-}
-
-// Lines on one straight line that share more than a point: one edge drawn twice.
-inline bool Sovrapposte(const LineaLetta& l, const LineaLetta& m) {
-  const Punto d = l.b - l.a;
-  const double lunghezza = Modulo(d);
-  if (lunghezza < 1e-9) return false;
-  const Punto u = (1 / lunghezza) * d;
-  const auto fuori = [&](Punto p) {
-    const Punto r = p - l.a;
-    return std::abs(r.x * u.y - r.y * u.x);
-  };
-  if (fuori(m.a) > 1e-6 || fuori(m.b) > 1e-6) return false;
-  const auto lungo = [&](Punto p) { return (p.x - l.a.x) * u.x + (p.y - l.a.y) * u.y; };
-  const double m0 = std::min(lungo(m.a), lungo(m.b));
-  const double m1 = std::max(lungo(m.a), lungo(m.b));
-  return std::min(m1, lunghezza) - std::max(m0, 0.0) > 1e-6;
 }
 
 }  // namespace qf17::prova

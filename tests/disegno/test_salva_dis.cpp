@@ -13,19 +13,14 @@
 #include "disegno/formati/salva_svg.h"
 #include "nodo/sessione.h"
 #include "piattaforma/piattaforma_registrata.h"
+#include "quote_prova.h"
 #include "supporto/cartella_prova.h"
 
 namespace qf17 {
 namespace {
 
-class SalvaDisTest : public ::testing::Test {
+class SalvaDisTest : public ::testing::Test, public prova::SessioneQuote {
  protected:
-  void SetUp() override {
-    a.DestinazioneDisegno = "gendis";
-    AzzeraDisegno(a);
-    AzzeraEstensioni(a);
-  }
-
   std::string File(const std::string& nome) const { return (cartella.percorso() / nome).string(); }
 
   // A gusset-sized sketch: an outline, a dashed line on its bottom edge, a dash-dot axis, a
@@ -52,17 +47,13 @@ class SalvaDisTest : public ::testing::Test {
     DisegnaLinea(s, -110, -60, -99.75, -49.5, 6);
   }
 
-  PiattaformaRegistrata p;
-  Sessione s{p};
-  ArchivioDisegno& a = s.disegno;
   TabelleDisegno& t = a.Tabelle();
   prova::CartellaProva cartella;
 };
 
-// The expected file was written by hand from the format: extents over all 15 coordinates before
-// the clean-up (the removed text's point at Y 80 included); the dashed line on the edge, the
-// repeated circle and the text of no height gone, with the three coordinates only they used;
-// the rest renumbered in order.
+// The expected file was written by hand: extents over all 15 coordinates before the clean-up;
+// the dashed line on the edge, the repeated circle and the text of no height gone, with the
+// three coordinates only they used; the rest renumbered in order.
 TEST_F(SalvaDisTest, SchizzoBytePerByte) {
   Schizzo();
   ASSERT_EQ(a.NumCoord, 15);
@@ -79,21 +70,18 @@ TEST_F(SalvaDisTest, SchizzoBytePerByte) {
   EXPECT_EQ(p.messaggi[0].titolo, "SALVA FILE DISEGNO");
   EXPECT_EQ(p.messaggi[0].icona, Icona::Informazione);
   // The store stays cleaned: a second writer sees the same drawing.
-  EXPECT_EQ(a.NumCoord, 12);
-  EXPECT_EQ(a.NumLinee, 6);
-  EXPECT_EQ(a.NumArchi, 2);
-  EXPECT_EQ(a.NumTesti, 1);
+  EXPECT_EQ((std::vector<std::int32_t>{a.NumCoord, a.NumLinee, a.NumArchi, a.NumTesti}),
+            (std::vector<std::int32_t>{12, 6, 2, 1}));
 }
 
+// Version 4 is written as asked, any other as 3.
 TEST_F(SalvaDisTest, RigaDiVersioneDiVentiCaratteri) {
-  for (const auto& [versione, riga] :
-       std::vector<std::pair<std::int16_t, std::string>>{{4, "                   4\r\n"},
-                                                         {3, "                   3\r\n"},
-                                                         {7, "                   3\r\n"},
-                                                         {0, "                   3\r\n"}}) {
-    DisegnaLinea(s, 0, 0, 1, 1);
-    const std::string testo = TestoDis(a, EstensioniDisegno(a), versione);
-    EXPECT_EQ(testo.substr(0, 22), riga) << versione;
+  DisegnaLinea(s, 0, 0, 1, 1);
+  for (const auto& [versione, cifra] :
+       std::vector<std::pair<int, char>>{{4, '4'}, {3, '3'}, {7, '3'}, {0, '3'}}) {
+    const std::string testo =
+        TestoDis(a, EstensioniDisegno(a), static_cast<std::int16_t>(versione));
+    EXPECT_EQ(testo.substr(0, 22), std::string(19, ' ') + cifra + "\r\n") << versione;
   }
 }
 
@@ -149,12 +137,7 @@ TEST_F(SalvaDisTest, MessaggiSecondoIlSilenzio) {
 TEST_F(SalvaDisTest, EstensioniDallaRigaZero) {
   t.CoordX[0] = 7;
   t.CoordY[0] = -3;
-  const EstensioniDis e = EstensioniDisegno(a);
-  EXPECT_EQ(e.xmin, 7);
-  EXPECT_EQ(e.xmax, 7);
-  EXPECT_EQ(e.ymin, -3);
-  EXPECT_EQ(e.ymax, -3);
-  EXPECT_EQ(TestoDis(a, e, 4),
+  EXPECT_EQ(TestoDis(a, EstensioniDisegno(a), 4),
             "                   4\r\n 7  7 \r\n-3 -3 \r\n-10000.000000        10000.000000\r\n"
             " 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n");
 }
@@ -239,18 +222,6 @@ TEST_F(SalvaDisTest, ColoreZeroRestaNegativiVanno) {
   EXPECT_EQ(t.LinColore[4], 5);
   EXPECT_EQ(t.LinP2[4], t.LinP2[3]);
   EXPECT_EQ(a.NumCoord, 9);  // 3, 7, 40, 50 went with their lines, the ends by 10 and 0.5 merged
-}
-
-TEST_F(SalvaDisTest, TestoAltoQuattroCentesimiVa) {
-  ScriviTesto(s, "basso", 0, 0, 0, 2, 0.04);
-  ScriviTesto(s, "stretto", 5, 0, 0, 0.04, 2);
-  ScriviTesto(s, "giusto", 10, 0, 0, 0.05, 0.06);  // 0.5 rounds to 0, 0.6 to 1
-  ScriviTesto(s, "alto", 15, 0, 0, 0.06, 0.06);
-  PulisciDisegno(a);
-  ASSERT_EQ(a.NumTesti, 1);
-  EXPECT_EQ(t.TestoStringa[0], "alto");
-  EXPECT_EQ(a.NumCoord, 1);
-  EXPECT_EQ(t.CoordX[0], 15);
 }
 
 // A point drawn again after more than 31 others is stored twice; the clean-up gives it one

@@ -170,22 +170,6 @@ class TipiLineaTest : public ::testing::Test {
   TipiLinea tipi;
 };
 
-// The installation's own file: dash-dot, dashed, long dashed, dash-dot-dot.
-TEST_F(TipiLineaTest, FileDellInstallazione) {
-  EXPECT_EQ(LegTipLin(tipi, fs::path(QF17_SORGENTI) / "installazione/custom/TipiLineaQf7.txt"), "");
-  EXPECT_EQ(tipi.TipoNumTratti[1], 4);
-  EXPECT_EQ(tipi.TipoTratti(1, 0), 120);
-  EXPECT_EQ(tipi.TipoTratti(1, 3), 30);
-  EXPECT_EQ(tipi.TipoLunghezza[1], 200);  // 120 + 30 + 20 + 30
-  EXPECT_EQ(tipi.TipoNumTratti[2], 2);
-  EXPECT_EQ(tipi.TipoLunghezza[2], 180);
-  EXPECT_EQ(tipi.TipoNumTratti[3], 6);
-  EXPECT_EQ(tipi.TipoLunghezza[3], 250);
-  EXPECT_EQ(tipi.TipoNumTratti[4], 2);
-  EXPECT_EQ(tipi.TipoLunghezza[4], 90);
-  EXPECT_EQ(tipi.TipoNumTratti[5], 0);
-}
-
 TEST_F(TipiLineaTest, RigheBuone) {
   const fs::path f =
       Scrivi("; commento\r\n\r\n\t4\t60  30 ; tratteggio\r\n9 .5 5. 1 2 3 4 5 6 7 8 10000\n  ;\n");
