@@ -17,6 +17,7 @@ class PiattaformaMuta : public Piattaforma {
   std::optional<FileScelto> ScegliFileDaAprire(const RichiestaFile&) override { return {}; }
   std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile&) override { return {}; }
   bool Avvia(const std::string&, const std::string&, bool) override { return true; }
+  bool Mostra(Vista, const std::string&) override { return true; }
   void Occupato(bool) override {}
   long messaggi = 0;
 };

@@ -17,6 +17,8 @@ class PiattaformaCli : public Piattaforma {
   std::optional<FileScelto> ScegliFileDaAprire(const RichiestaFile& richiesta) override;
   std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) override;
+  // The command prints the file's path instead.
+  bool Mostra(Vista, const std::string&) override { return true; }
   void Occupato(bool) override {}
   // No other program's window is ever looked for from a terminal.
   bool AttivaFinestra(const std::string&, const std::string&) override { return false; }

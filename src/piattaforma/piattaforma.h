@@ -11,6 +11,8 @@ namespace qf17 {
 enum class Icona { Nessuna, Informazione, Attenzione, Critica, Domanda };
 enum class Pulsanti { Ok, OkAnnulla };
 enum class Risposta { Ok, Annulla };
+// What a file shown to the user is: the platform picks the viewer.
+enum class Vista { Relazione, Guida };
 
 // What an open or save dialog is asked for. `filtro` uses the family's "Text|*.ext|..." form.
 struct RichiestaFile {
@@ -48,6 +50,9 @@ class Piattaforma {
   // Starts another program; with `attendi` it returns when that program has ended.
   // False when it could not be started.
   virtual bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) = 0;
+  // Shows a file by what it is (a report, the help), not waited for. False when it cannot be
+  // shown.
+  virtual bool Mostra(Vista vista, const std::string& file) = 0;
   // The busy pointer, on while a long command runs.
   virtual void Occupato(bool acceso) = 0;
   // Brings the running window with exactly this title to the front and sends it the keystrokes

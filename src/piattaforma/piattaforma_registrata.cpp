@@ -48,4 +48,12 @@ void PiattaformaRegistrata::Occupato(bool acceso) {
   ++cambiOccupato;
 }
 
+bool PiattaformaRegistrata::Mostra(Vista vista, const std::string& file) {
+  viste.emplace_back(vista, file);
+  if (esitiAvvio.empty()) return true;
+  const bool esito = esitiAvvio.front();
+  esitiAvvio.pop_front();
+  return esito;
+}
+
 }  // namespace qf17

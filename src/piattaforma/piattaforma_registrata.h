@@ -34,6 +34,7 @@ class PiattaformaRegistrata : public Piattaforma {
   std::optional<FileScelto> ScegliFileDaAprire(const RichiestaFile& richiesta) override;
   std::optional<FileScelto> ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) override;
+  bool Mostra(Vista vista, const std::string& file) override;
   void Occupato(bool acceso) override;
   bool AttivaFinestra(const std::string& titolo, const std::string& tasti) override;
 
@@ -50,6 +51,7 @@ class PiattaformaRegistrata : public Piattaforma {
   std::vector<MessaggioVisto> messaggi;
   std::vector<RichiestaFile> richiesteFile;
   std::vector<AvvioVisto> avvii;
+  std::vector<std::pair<Vista, std::string>> viste;  // files shown, answered as esitiAvvio
   std::vector<FinestraCercata> finestreCercate;
   int cambiOccupato = 0;
   bool occupato = false;

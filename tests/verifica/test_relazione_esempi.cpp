@@ -163,9 +163,8 @@ TEST_P(RelazioneEsempi, RelazioneComeIlFileDiRiferimentoEVerdetto) {
     EXPECT_EQ(p.messaggi.back().testo, attesi.back());
     EXPECT_EQ(p.messaggi.back().titolo, "QF17 - NODO DI TRAVATURA RETICOLARE");
   }
-  ASSERT_EQ(p.avvii.size(), 1u);
-  EXPECT_EQ(p.avvii[0].programma, "notepad.exe");
-  EXPECT_EQ(p.avvii[0].argomenti, relazione.string());
+  ASSERT_EQ(p.viste.size(), 1u);
+  EXPECT_EQ(p.viste[0], std::pair(Vista::Relazione, relazione.string()));
 
   // The report rounded what it printed back into the tables; a second run on the same session
   // fills them again and writes the same file.

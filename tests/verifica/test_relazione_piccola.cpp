@@ -62,7 +62,7 @@ TYPED_TEST(RelazionePiccola, SenzaSetSoloLaTestata) {
   attesa.replace(0, attesa.find(" - METODO"), "VERIFICA TENSIONALE");
   EXPECT_EQ(this->Relazione(), attesa);
   EXPECT_TRUE(this->p.messaggi.empty());
-  EXPECT_EQ(this->p.avvii.size(), 1u);
+  EXPECT_EQ(this->p.viste.size(), 1u);
   EXPECT_FALSE(this->verdetti.NodoKo);
   EXPECT_EQ(this->verdetti.SetOk.size(), 1u);
 }
@@ -75,7 +75,7 @@ TYPED_TEST(RelazionePiccola, ScritturaNonRiuscita) {
   EXPECT_EQ(this->p.messaggi[1].testo,
             "Errore: scrittura della relazione non riuscita:\n" + atteso.string());
   EXPECT_EQ(this->p.messaggi[1].titolo, "ERRORE");
-  EXPECT_TRUE(this->p.avvii.empty());
+  EXPECT_TRUE(this->p.viste.empty());
   EXPECT_FALSE(fs::exists(atteso));
 }
 
@@ -133,7 +133,7 @@ TEST_F(RelazioneTAPiccola, DueEsecuzioniSovrascrivonoLoStessoFile) {
     ++file_nella_cartella;
   }
   EXPECT_EQ(file_nella_cartella, 1);
-  EXPECT_EQ(p.avvii.size(), 2u);
+  EXPECT_EQ(p.viste.size(), 2u);
 }
 
 // The ratios stay in the table as shown: two decimals, halves to the even neighbour. Nothing

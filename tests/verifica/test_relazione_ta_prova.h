@@ -37,10 +37,8 @@ inline void ControllaChiusuraNonVerificato(const PiattaformaRelazione& p, const 
   EXPECT_EQ(p.messaggi[0].pulsanti, Pulsanti::Ok);
   EXPECT_FALSE(p.fileAlMessaggio[0]) << "the message comes before the report is complete";
 
-  ASSERT_EQ(p.avvii.size(), 1u);
-  EXPECT_EQ(p.avvii[0].programma, "notepad.exe");
-  EXPECT_EQ(p.avvii[0].argomenti, file.string());
-  EXPECT_FALSE(p.avvii[0].attendi);
+  ASSERT_EQ(p.viste.size(), 1u);
+  EXPECT_EQ(p.viste[0], std::pair(Vista::Relazione, file.string()));
 }
 
 inline Profilo ProfiloRelazione(const std::string& nome, std::int16_t tipo, double h, double b,

@@ -190,7 +190,7 @@ void MaxMinSoll(InsDati& p, Sessione& s) {
 
 void LegendaButt(Sessione& s) {
   const std::string guida = (Percorso(s.cartelle.Help) / "HelpQF17.pdf").string();
-  if (!s.piattaforma.Avvia(guida, "", false)) {
+  if (!s.piattaforma.Mostra(Vista::Guida, guida)) {
     s.piattaforma.Messaggio("Errore: impossibile aprire " + guida, "ERRORE", Icona::Critica,
                             Pulsanti::Ok);
   }

@@ -85,7 +85,7 @@ bool ConcludiRelazione(Sessione& sessione, FileSicuro& file, TestoRelazione& r, 
                 Icona::Critica, Pulsanti::Ok);
     return false;
   }
-  if (!p.Avvia("notepad.exe", nome, false)) {
+  if (!p.Mostra(Vista::Relazione, nome)) {
     p.Messaggio("Errore: impossibile mostrare la relazione:\n" + nome, "ERRORE", Icona::Critica,
                 Pulsanti::Ok);
   }

@@ -32,7 +32,7 @@ void PreparaVerdetti(VerdettiRelazione& verdetti, int nSet);
 void ScriviAvvertenze(const RaccoltaMessaggi& raccolta, TestoRelazione& r);
 // The end of a report: the messages of the run (ScriviAvvertenze), then the closing message when a set has failed, which comes up before the
 // file is on disk, as the user has always seen it; then the file made whole under its name, and
-// the viewer ("notepad.exe", not waited for). False, with a message, when the file cannot be
+// the viewer (shown as a report, not waited for). False, with a message, when the file cannot be
 // written; the viewer is then not started.
 bool ConcludiRelazione(Sessione& sessione, FileSicuro& file, TestoRelazione& r, bool nodoKo);
 

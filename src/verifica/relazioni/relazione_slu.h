@@ -8,7 +8,7 @@ struct Sessione;
 
 // Writes the limit-state report (file by NomeRelazione with tag "SLU", temporary file renamed
 // over the target), shows the closing message when a set fails and hands the file to the viewer
-// ("notepad.exe", not waited for). It leaves each bolt's ratio in RapportoBull rounded to two
+// (shown as a report, not waited for). It leaves each bolt's ratio in RapportoBull rounded to two
 // decimals, as shown, and fills the weld's SEq1 and SEq2; it reads no bolt flag (OkTau): a
 // bolt's verdict is its shown ratio. `verdetti` gets each set's verdict, the node's, and for a
 // welded chord whether its steel has weld coefficients and the weld's ratio to its limits (the

@@ -25,7 +25,7 @@ struct VerdettiRelazione {
 std::filesystem::path NomeRelazione(const Nodo& nodo, std::string_view tag,
                                     std::string_view codice = "QF17");
 // Writes the allowable-stress report (temporary file renamed over the target), shows the
-// closing message when a set fails and hands the file to the viewer ("notepad.exe", not
+// closing message when a set fails and hands the file to the viewer (shown as a report, not
 // waited for). Leaves the shown stresses rounded in the result tables, the chord's ideal stress
 // in SigProf(0, j): the checks must fill the tables again before another report. False, with a
 // message, when it cannot be written; the viewer is then not started.
