@@ -92,8 +92,10 @@ void pnn2_aggionaOpButton_Disegni(InsDati& p, const Sessione& s, int m) {
 }
 
 void pnn2_disegna_label_sezione_aste(InsDati& p, int m) {
-  const char* const etichette[] = {"h:", "b:", "a:", "e:"};
-  for (int k = 0; k < 4; ++k) p.c("geom", 6 * m + k).testo = etichette[k];
+  // The last two cells: the area in cm2 and the largest axial force, area x strength / 10,
+  // which is newtons.
+  const char* const etichette[] = {"h:", "b:", "a:", "e:", "A [cm2]:", "N [N]:"};
+  for (int k = 0; k < 6; ++k) p.c("geom", 6 * m + k).testo = etichette[k];
 }
 
 void Cb_Asta_Click(InsDati& p, Sessione& s, int i, int posto) {
@@ -157,6 +159,12 @@ void TipoVer_Click(InsDati& p, Sessione& s, std::int16_t metodo) {
   pnn1_aggiorna_materiali(p, s);
   pnn1_aggiorna_sollecitazioni(p, s.nodo, s.unita, -1);
   for (int i = 0; i <= kMaxAste; ++i) pnn2_ScriviDatiProfilo(p, s.nodo, i);
+}
+
+void ComboEsposizione_Click(InsDati& p, Sessione& s, int posto) {
+  if (s.nodo.Aggiornamento == 1 || posto < 0 || posto > 2) return;
+  s.nodo.Esposizione = static_cast<std::int16_t>(posto);
+  p.c("ComboEsposizione").selezione = posto;
 }
 
 }  // namespace qf17

@@ -33,5 +33,7 @@ void Cambia_lato_asta_L(InsDati& p, Sessione& s, int indice);
 // The method option: steels as the materials keep them per method, the load case boxes shown or
 // hidden, the capacity cells again.
 void TipoVer_Click(InsDati& p, Sessione& s, std::int16_t metodo);
+// The exposure combo at place `posto` (0..2).
+void ComboEsposizione_Click(InsDati& p, Sessione& s, int posto);
 
 }  // namespace qf17

@@ -1,0 +1,213 @@
+// The desktop windows driven as a user drives them, on a private copy of the sample
+// installation, under the offscreen platform. With QF17_SCHERMATE=FOLDER each window is also
+// grabbed to a PNG there, to be looked at.
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+#include "dialogo_bulloni.h"
+#include "finestra_principale.h"
+#include "finestra_relazione.h"
+#include "nodo/avvio.h"
+#include "nodo/file_nodo.h"
+#include "nodo/sessione.h"
+#include "piattaforma_qt.h"
+#include "vista_primitive.h"
+
+namespace qf17 {
+
+class TestFinestre : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void cleanup();
+  void CaselleInvioEdEsc();
+  void SezioneEModoOpposto();
+  void SollecitazioniFinoAlLimite();
+  void VerificaMostraLaRelazione();
+  void EditorDeiBulloniDalloSchema();
+
+ private:
+  template <class T>
+  T* W(const char* nome, int indice = -1) {
+    return qobject_cast<T*>(finestra->Widget(nome, indice));
+  }
+  // Answers the next modal box or dialog with `azione` once it is up.
+  void Poi(std::function<void(QWidget*)> azione);
+  void Schermata(QWidget* w, const QString& nome);
+
+  std::unique_ptr<QTemporaryDir> radice;
+  std::unique_ptr<PiattaformaQt> piattaforma;
+  std::unique_ptr<Sessione> s;
+  std::unique_ptr<FinestraPrincipale> finestra;
+};
+
+void TestFinestre::init() {
+  radice = std::make_unique<QTemporaryDir>();
+  namespace fs = std::filesystem;
+  const fs::path r = radice->path().toStdString();
+  fs::copy(fs::path(QF17_SORGENTI) / "installazione", r, fs::copy_options::recursive);
+  std::ofstream(r / "impostazioni" / "dirlav") << (r / "lavori").string() << "\r\n";
+  piattaforma = std::make_unique<PiattaformaQt>();
+  s = std::make_unique<Sessione>(*piattaforma);
+  Avvio(*s, "|diroot=" + r.string() + "|", r / "progra");
+  QVERIFY(ApriNodoDaFile(*s, r / "lavori" / "esempi" / "ANGUPN.qf7"));
+  finestra = std::make_unique<FinestraPrincipale>(*s);
+  piattaforma->ImpostaFinestra(finestra.get());
+  finestra->show();
+  QVERIFY(QTest::qWaitForWindowExposed(finestra.get()));
+}
+
+void TestFinestre::cleanup() {
+  finestra.reset();
+  s.reset();
+}
+
+void TestFinestre::Poi(std::function<void(QWidget*)> azione) {
+  QTimer::singleShot(0, this, [azione] {
+    QWidget* modale = QApplication::activeModalWidget();
+    QVERIFY(modale != nullptr);
+    azione(modale);
+  });
+}
+
+void TestFinestre::Schermata(QWidget* w, const QString& nome) {
+  const QString cartella = qEnvironmentVariable("QF17_SCHERMATE");
+  if (cartella.isEmpty()) return;
+  QDir().mkpath(cartella);
+  QVERIFY(w->grab().save(cartella + QStringLiteral("/") + nome + QStringLiteral(".png")));
+}
+
+// A gusset size typed and Enter: the node takes it. Escape on another box puts the node's value
+// back.
+void TestFinestre::CaselleInvioEdEsc() {
+  Schermata(finestra.get(), QStringLiteral("principale_ANGUPN"));
+  auto* a = W<QLineEdit>("FzTxt", 0);
+  QVERIFY(a != nullptr);
+  QCOMPARE(a->text(), QStringLiteral("150"));
+  a->setFocus();
+  a->selectAll();
+  QTest::keyClicks(a, QStringLiteral("175,5"));
+  QTest::keyClick(a, Qt::Key_Return);
+  QCOMPARE(s->nodo.Fz_a, 175.0);
+  auto* b = W<QLineEdit>("FzTxt", 1);
+  b->setFocus();
+  b->selectAll();
+  QTest::keyClicks(b, QStringLiteral("999"));
+  QTest::keyClick(b, Qt::Key_Escape);
+  QCOMPARE(b->text(), QStringLiteral("250"));
+  QCOMPARE(s->nodo.Fz_b, 250.0);
+}
+
+// A channel for member B from its combo, then "Opposta": the channel stays single, turned.
+void TestFinestre::SezioneEModoOpposto() {
+  auto* combo = W<QComboBox>("Cb_Asta", 2);
+  const int upn160 = combo->findText(QStringLiteral("UPN160"));
+  QVERIFY(upn160 >= 0);
+  combo->setCurrentIndex(upn160);
+  emit combo->activated(upn160);
+  QCOMPARE(QString::fromStdString(s->nodo.Aste[2].Nome), QStringLiteral("UPN160"));
+  W<QRadioButton>("OpB_aste_c", 5)->click();
+  QCOMPARE(s->nodo.Ast_modo[2], std::int16_t{0});
+  QCOMPARE(s->nodo.Ast_lato[2], std::int16_t{1});
+  QVERIFY(W<QRadioButton>("OpB_aste_c", 3)->isChecked());
+}
+
+// Sets added to the button's limit: the last press gets the box, answered OK.
+void TestFinestre::SollecitazioniFinoAlLimite() {
+  s->nodo.nSollAg = 198;
+  finestra->Aggiorna();
+  W<QPushButton>("Bt_agg_sing_sol")->click();
+  QCOMPARE(s->nodo.nSollAg, std::int16_t{199});
+  QCOMPARE(W<QPushButton>("Lb_sol_num", 3)->text(), QStringLiteral("199"));
+  QString testo;
+  Poi([&testo](QWidget* box) {
+    testo = qobject_cast<QMessageBox*>(box)->text();
+    qobject_cast<QMessageBox*>(box)->accept();
+  });
+  W<QPushButton>("Bt_agg_sing_sol")->click();
+  QCOMPARE(testo, QStringLiteral("E' stato raggiunto il numero massimo di sollecitazioni."));
+  QCOMPARE(s->nodo.nSollAg, std::int16_t{199});
+}
+
+// The verify button writes the report and shows it in the report window.
+void TestFinestre::VerificaMostraLaRelazione() {
+  s->nodo.TipoVer = 0;
+  W<QPushButton>("VerificaButt")->click();
+  FinestraRelazione* relazione = nullptr;
+  for (QWidget* w : QApplication::topLevelWidgets()) {
+    if (auto* f = qobject_cast<FinestraRelazione*>(w); f && f->isVisible()) relazione = f;
+  }
+  QVERIFY(relazione != nullptr);
+  QVERIFY(relazione->windowTitle().startsWith(QStringLiteral("RelTA_QF17_ANGUPN.txt")));
+  QVERIFY(relazione->Testo()->toPlainText().contains(QStringLiteral("NODO VERIFICATO")));
+  Schermata(relazione, QStringLiteral("relazione_ANGUPN"));
+  relazione->close();
+}
+
+// The schema's area of member B opens its editor: a matrix generated and cancelled leaves the
+// group as it was; generated again and confirmed, the group has it. B is a UPN120 inserted 120:
+// a web 102 high, margins of two 16.5 mm holes, so a 2 x 2 matrix of 16 mm bolts stands at
+// x 33 and 87, y 33 and 69.
+void TestFinestre::EditorDeiBulloniDalloSchema() {
+  const auto prima = s->nodo.nBull[2];
+  const double x1 = s->nodo.xBull(2, 1);
+  auto* schema = W<VistaPrimitive>("Sezioni");
+  QVERIFY(schema != nullptr);
+  const QPoint sopraB = schema->InPixel(200, 250).toPoint();
+  auto genera = [this](bool conferma) {
+    Poi([this, conferma](QWidget* w) {
+      auto* dialogo = qobject_cast<DialogoBulloni*>(w);
+      QVERIFY(dialogo != nullptr);
+      QCOMPARE(dialogo->windowTitle(), QStringLiteral("Inserimento bulloni sull'asta B"));
+      auto caselle = dialogo->findChildren<QLineEdit*>();
+      // After the 2 + 2 readouts and the 15 boxes of the list: diameter, rows, columns.
+      caselle[19]->setText(QStringLiteral("16"));
+      caselle[20]->setText(QStringLiteral("2"));
+      caselle[21]->setText(QStringLiteral("2"));
+      QTest::keyClick(caselle[21], Qt::Key_Return);
+      QCOMPARE(caselle[22]->text(), QStringLiteral("33"));  // left margin: 2 x 16.5
+      for (QPushButton* b : dialogo->findChildren<QPushButton*>()) {
+        if (b->text() == QStringLiteral("Aggiungi")) b->click();
+      }
+      if (conferma) Schermata(dialogo, QStringLiteral("editor_bulloni_B"));
+      for (QPushButton* b : dialogo->findChildren<QPushButton*>()) {
+        if (b->text() == (conferma ? QStringLiteral("OK") : QStringLiteral("Annulla"))) {
+          b->click();
+          return;
+        }
+      }
+      QFAIL("no OK or Annulla button");
+    });
+  };
+  QTest::mouseMove(schema, sopraB);
+  QCOMPARE(finestra->Pannello().GruppoEditor, std::int16_t{3});
+  QCOMPARE(schema->cursor().shape(), Qt::PointingHandCursor);
+  genera(false);
+  QTest::mouseClick(schema, Qt::LeftButton, {}, sopraB);
+  QCOMPARE(s->nodo.nBull[2], prima);
+  genera(true);
+  QTest::mouseClick(schema, Qt::LeftButton, {}, sopraB);
+  QCOMPARE(s->nodo.nBull[2], prima + 4);
+  QCOMPARE(s->nodo.xBull(2, 1), x1);  // appended after the sample's bolts
+  QCOMPARE(s->nodo.xBull(2, prima + 2), 87.0);
+  QCOMPARE(s->nodo.yBull(2, prima + 4), 69.0);
+}
+
+}  // namespace qf17
+
+QTEST_MAIN(qf17::TestFinestre)
+#include "test_finestre.moc"
