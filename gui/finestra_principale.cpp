@@ -192,8 +192,7 @@ QWidget* FinestraPrincipale::PaginaMateriali() {
   };
   connect(combo("Cb_Acciaio", QStringLiteral("Acciaio"), 0), qOverload<int>(&QComboBox::activated),
           this, [this](int i) {
-            SceltaAcciaio(s_, i);
-            pnn1_aggiorna_materiali(p_, s_);
+            Cb_Acciaio_Click(p_, s_, i);
             Dipingi();
           });
   auto* norma = new QLabel(pagina);
@@ -201,7 +200,7 @@ QWidget* FinestraPrincipale::PaginaMateriali() {
   g->addWidget(norma, 1, 1);
   connect(combo("Cb_Vite", QStringLiteral("Classe dei bulloni"), 2),
           qOverload<int>(&QComboBox::activated), this, [this](int i) {
-            SceltaVite(s_, i);
+            Cb_Vite_Click(p_, s_, i);
             Dipingi();
           });
   connect(combo("ComboEsposizione", QStringLiteral("Esposizione"), 3),
@@ -248,7 +247,6 @@ QWidget* FinestraPrincipale::PaginaSollecitazioni() {
   auto* barra = new QScrollBar(Qt::Vertical, pagina);
   Registra(barra, "VScrollSoll");
   connect(barra, &QScrollBar::valueChanged, this, [this](int valore) {
-    if (s_.nodo.Aggiornamento == 1) return;
     VScrollSoll_Change(p_, s_.nodo, s_.unita, valore);
     Dipingi();
   });

@@ -44,8 +44,7 @@ std::vector<std::string> ListaViti(const Materiali& materiali);
 // Fills the panel's steel list with the rows allowed in the node's method and selects `voluto`.
 // When `voluto` is not in the list, the family's warning goes up, the place that
 // PosizioneInLista finds (or the first one, when it finds none) is selected and its table row
-// becomes the node's steel. With an empty `voluto` nothing is selected. `Aggiornamento` is held
-// while the list is filled.
+// becomes the node's steel. With an empty `voluto` nothing is selected.
 void RiempiListaAcciai(Sessione& sessione, std::string_view voluto);
 // Zero-based place among the allowed rows of the first one whose name contains `voluto`, or is
 // contained in it and differs from it (case counts); -1 when none.
@@ -53,8 +52,8 @@ int PosizioneInLista(const Materiali& materiali, std::int16_t tipoVer, std::stri
 // The place of exactly `nome` in the panel's steel list as it stands; -1 when absent.
 int PostoInLista(const Materiali& materiali, std::string_view nome);
 
-// Clicks of the panel, as logic; each does nothing while `Aggiornamento` is 1, and a list
-// click does nothing at a place beyond its list.
+// Clicks of the panel, as logic (the panel's re-entry guard is the caller's); a list click does
+// nothing at a place beyond its list.
 // The steel list: the node's steel becomes table row `indiceLista` + 1, even when the list skips
 // rows the method forbids (the family's behaviour, kept).
 void SceltaAcciaio(Sessione& sessione, int indiceLista);

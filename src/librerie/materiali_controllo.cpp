@@ -46,7 +46,6 @@ int PrimaViteAmmessa(const Materiali& m, std::int16_t tipoVer) {
 }  // namespace
 
 void CliccaCheckMatBase(Sessione& sessione, bool spuntato) {
-  if (sessione.nodo.Aggiornamento == 1) return;
   sessione.materiali.CheckMatBase = spuntato;
   GestioneMaterialeBase(sessione);
 }

@@ -72,7 +72,6 @@ int PostoInLista(const Materiali& materiali, std::string_view nome) {
 void RiempiListaAcciai(Sessione& sessione, std::string_view voluto) {
   Materiali& m = sessione.materiali;
   Nodo& nodo = sessione.nodo;
-  nodo.Aggiornamento = 1;
   const std::vector<int> righe = RigheAcciaiAmmesse(m, nodo.TipoVer);
   m.ListaAcciai.clear();
   for (int riga : righe) m.ListaAcciai.push_back(m.Acciai[riga].Nome);
@@ -86,7 +85,6 @@ void RiempiListaAcciai(Sessione& sessione, std::string_view voluto) {
       nodo.acciaio = m.Acciai[righe[static_cast<std::size_t>(m.ListaAcciaiScelta)]];
     }
   }
-  nodo.Aggiornamento = 0;
 }
 
 }  // namespace qf17

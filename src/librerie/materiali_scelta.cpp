@@ -8,7 +8,7 @@ namespace qf17 {
 void SceltaAcciaio(Sessione& sessione, int indiceLista) {
   Nodo& nodo = sessione.nodo;
   Materiali& m = sessione.materiali;
-  if (nodo.Aggiornamento == 1 || indiceLista < 0) return;
+  if (indiceLista < 0) return;
   if (indiceLista >= static_cast<int>(m.ListaAcciai.size())) return;  // no such place
   m.ListaAcciaiScelta = indiceLista;
   // The row is the list place + 1 although the list may skip forbidden rows: kept as it is.
@@ -18,13 +18,13 @@ void SceltaAcciaio(Sessione& sessione, int indiceLista) {
 void SceltaVite(Sessione& sessione, int indiceLista) {
   Nodo& nodo = sessione.nodo;
   const Materiali& m = sessione.materiali;
-  if (nodo.Aggiornamento == 1 || indiceLista < 0 || indiceLista >= m.NumViti) return;
+  if (indiceLista < 0 || indiceLista >= m.NumViti) return;
   nodo.vite = m.Viti[indiceLista + 1];
 }
 
 void CambiaMetodo(Sessione& sessione, std::int16_t tipoVer) {
   Nodo& nodo = sessione.nodo;
-  if (nodo.Aggiornamento == 1 || tipoVer == nodo.TipoVer) return;
+  if (tipoVer == nodo.TipoVer) return;
   Materiali& m = sessione.materiali;
   const bool versoSLU = tipoVer == static_cast<std::int16_t>(TipoVerifica::SLU);
   Acciaio& lasciato = versoSLU ? m.AcciaioTA : m.AcciaioSLU;

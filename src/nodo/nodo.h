@@ -89,7 +89,6 @@ struct Nodo {
   double Cor_tetaCasella = 0;
   std::string NomeFileNodo = "Nuovo";
   std::string DirLavoro;
-  std::int16_t Aggiornamento = 0;
   std::int16_t Vista3DAttiva = 0;
   bool DisegnoGenerato = false;
 };

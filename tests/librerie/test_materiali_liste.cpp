@@ -98,7 +98,6 @@ TEST(MaterialiListe, RiempiListaSenzaAvviso) {
   RiempiListaAcciai(b.s, "");
   EXPECT_EQ(b.s.materiali.ListaAcciaiScelta, -1);
   EXPECT_TRUE(b.p.messaggi.empty());
-  EXPECT_EQ(b.s.nodo.Aggiornamento, 0);
 }
 
 // A wanted steel the method forbids: the warning of the method, then the first allowed row that
@@ -138,7 +137,6 @@ TEST(MaterialiListe, RiempiListaAvvisoPerMetodo) {
     EXPECT_EQ(b.p.messaggi[0].titolo, "ATTENZIONE!");
     EXPECT_EQ(b.s.materiali.ListaAcciaiScelta, c.posto);
     EXPECT_EQ(b.s.nodo.acciaio.Nome, c.acciaio);
-    EXPECT_EQ(b.s.nodo.Aggiornamento, 0);
   }
 }
 
@@ -155,14 +153,6 @@ TEST(MaterialiListe, SceltaAcciaioRigaPiuUno) {
 
   SceltaVite(b.s, 3);
   EXPECT_EQ(b.s.nodo.vite.Nome, "8.8");
-
-  b.s.nodo.Aggiornamento = 1;  // a refresh's own events change nothing
-  SceltaAcciaio(b.s, 3);
-  SceltaVite(b.s, 0);
-  CambiaMetodo(b.s, SLU);
-  EXPECT_EQ(b.s.nodo.acciaio.Nome, "S 235 (FE 360)");
-  EXPECT_EQ(b.s.nodo.vite.Nome, "8.8");
-  EXPECT_EQ(b.s.nodo.TipoVer, TA);
 }
 
 // A limit-state steel carried to allowable stresses with an empty memory: the warning, and the

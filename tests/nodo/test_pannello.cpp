@@ -53,7 +53,7 @@ TEST_F(Pannello, CaselleConIlNumeroIniziale) {
   EXPECT_EQ(ricostruzioni, 2);
   EXPECT_TRUE(p.cambiato);
   // While the panel refreshes, its events change nothing.
-  n.Aggiornamento = 1;
+  p.Aggiornamento = 1;
   Digita(FamigliaCasella::SpessTxt, -1, "99");
   EXPECT_NE(n.Fz_s, 99);
 }

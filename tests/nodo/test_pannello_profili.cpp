@@ -96,6 +96,15 @@ TEST_F(PannelloProfili, AstaDisattivata) {
 // The method: load cases only by allowable stresses, capacity by yield (940 x 2350 / 10 =
 // 220900 -> 220000) by limit states.
 TEST_F(PannelloProfili, Metodo) {
+  // While the panel refreshes, the events its own refresh raises change nothing.
+  p.Aggiornamento = 1;
+  TipoVer_Click(p, sessione, 1);
+  Cb_Vite_Click(p, sessione, 0);
+  EXPECT_EQ(sessione.nodo.TipoVer, 0);
+  EXPECT_EQ(sessione.nodo.vite.Nome, "");
+  p.Aggiornamento = 0;
+  Cb_Vite_Click(p, sessione, 3);
+  EXPECT_EQ(sessione.nodo.vite.Nome, "8.8");
   sessione.nodo.nSollAg = 1;
   TipoVer_Click(p, sessione, 1);
   EXPECT_EQ(sessione.nodo.TipoVer, 1);

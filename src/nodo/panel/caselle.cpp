@@ -70,7 +70,7 @@ std::string_view NomeCasella(FamigliaCasella f) {
 }
 
 void TbValuta(InsDati& p, Nodo& n, const UnitaLavoro& u, Casella c) {
-  if (n.Aggiornamento == 1) return;
+  if (p.Aggiornamento == 1) return;
   const std::string& testo = p.c(NomeCasella(c.famiglia), c.indice).testo;
   if (c.famiglia == FamigliaCasella::Tb_sol_descr) {
     const int j = SetDellaRiga(p, c.indice);

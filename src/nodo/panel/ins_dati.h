@@ -18,6 +18,9 @@ class Piattaforma;
 // The main panel as data: its controls, and the screen's own state that the node does not keep.
 struct InsDati {
   Controlli c;
+  // 1 while the panel is refreshed: every event that writes the model returns at once, so that
+  // what a refresh itself raises changes nothing.
+  std::int16_t Aggiornamento = 0;
   std::int16_t GruppoEditor = 0;  // the bolt group under the pointer or of the last bolt button
   int primaSoll = 1;              // the load set on the first row of the load table
   bool cambiato = false;          // a geometry box changed the node

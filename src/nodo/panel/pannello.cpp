@@ -177,13 +177,13 @@ bool Bt_salva_con_nome(InsDati& p, Sessione& s) {
 }
 
 void RimuoviDoppieSoll(InsDati& p, Sessione& s) {
-  if (s.nodo.Aggiornamento == 1) return;
+  if (p.Aggiornamento == 1) return;
   RimuoviDoppie(s.nodo);
   pnn1_aggiorna_sollecitazioni(p, s.nodo, s.unita, 1);
 }
 
 void MaxMinSoll(InsDati& p, Sessione& s) {
-  if (s.nodo.Aggiornamento == 1) return;
+  if (p.Aggiornamento == 1) return;
   RiduciMaxMin(s.nodo);
   pnn1_aggiorna_sollecitazioni(p, s.nodo, s.unita, 1);
 }

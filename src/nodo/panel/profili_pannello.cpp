@@ -44,7 +44,7 @@ void Liste(InsDati& p, const LibreriaProfili& libreria) {
 
 void pnn1_aggiorna_profili(InsDati& p, Sessione& s, std::array<bool, 4> giaValide) {
   Nodo& n = s.nodo;
-  n.Aggiornamento = 1;
+  p.Aggiornamento = 1;
   Liste(p, s.profili);
   for (int i = 0; i <= kMaxAste; ++i) {
     if (!giaValide[static_cast<std::size_t>(i)]) {
@@ -67,7 +67,7 @@ void pnn1_aggiorna_profili(InsDati& p, Sessione& s, std::array<bool, 4> giaValid
     p.c("Bt_bul_asta_" + Lettera(i)).abilitato = presente;
   }
   p.c("Bt_bul_corr").abilitato = n.Corrente.Tipo != 2;
-  n.Aggiornamento = 0;
+  p.Aggiornamento = 0;
 }
 
 void pnn1_aggiorna_materiali(InsDati& p, Sessione& s) {
@@ -101,7 +101,7 @@ void pnn2_disegna_label_sezione_aste(InsDati& p, int m) {
 void Cb_Asta_Click(InsDati& p, Sessione& s, int i, int posto) {
   Nodo& n = s.nodo;
   const auto& lista = i == 0 ? p.listaCorrente : p.listaAste;
-  if (n.Aggiornamento == 1 || posto < 0 || posto >= static_cast<int>(lista.size())) return;
+  if (p.Aggiornamento == 1 || posto < 0 || posto >= static_cast<int>(lista.size())) return;
   const Profilo& riga = s.profili.Profili[lista[static_cast<std::size_t>(posto)]];
   (i == 0 ? n.Corrente : n.Aste[i]) = riga;
   p.c("Cb_Asta", i).selezione = posto;
@@ -113,7 +113,7 @@ void Cb_Asta_Click(InsDati& p, Sessione& s, int i, int posto) {
 
 void AstaCh_Click(InsDati& p, Sessione& s, int i, bool spuntata) {
   Nodo& n = s.nodo;
-  if (n.Aggiornamento == 1) return;
+  if (p.Aggiornamento == 1) return;
   n.Ast_flag[i] = n.Ast_flag[i + 3] = spuntata ? 1 : 0;
   pnn1_aggiorna_profili(p, s);
   pnn1_aggiorna_sollecitazioni(p, n, s.unita, -1);
@@ -122,7 +122,7 @@ void AstaCh_Click(InsDati& p, Sessione& s, int i, bool spuntata) {
 
 void OpB_aste_c_Click(InsDati& p, Sessione& s, int k) {
   Nodo& n = s.nodo;
-  if (n.Aggiornamento == 1) return;
+  if (p.Aggiornamento == 1) return;
   const int m = k / 3 + 1;
   switch (k % 3) {
     case 0:
@@ -145,14 +145,14 @@ void OpB_aste_c_Click(InsDati& p, Sessione& s, int k) {
 void Cambia_lato_asta_L(InsDati& p, Sessione& s, int indice) {
   Nodo& n = s.nodo;
   const int m = indice + 1;
-  if (n.Aggiornamento == 1 || n.Aste[m].Tipo != 1) return;
+  if (p.Aggiornamento == 1 || n.Aste[m].Tipo != 1) return;
   n.Ast_lato[m] = n.Ast_lato[m] == 1 ? 0 : 1;
   pnn2_aggionaOpButton_Disegni(p, s, m);
   Ricostruisci3D(p, n);
 }
 
 void TipoVer_Click(InsDati& p, Sessione& s, std::int16_t metodo) {
-  if (s.nodo.Aggiornamento == 1) return;
+  if (p.Aggiornamento == 1) return;
   CambiaMetodo(s, metodo);
   p.c("TipoVer", 0).valore = metodo == 0 ? 1 : 0;
   p.c("TipoVer", 1).valore = metodo == 1 ? 1 : 0;
@@ -162,9 +162,21 @@ void TipoVer_Click(InsDati& p, Sessione& s, std::int16_t metodo) {
 }
 
 void ComboEsposizione_Click(InsDati& p, Sessione& s, int posto) {
-  if (s.nodo.Aggiornamento == 1 || posto < 0 || posto > 2) return;
+  if (p.Aggiornamento == 1 || posto < 0 || posto > 2) return;
   s.nodo.Esposizione = static_cast<std::int16_t>(posto);
   p.c("ComboEsposizione").selezione = posto;
+}
+
+void Cb_Acciaio_Click(InsDati& p, Sessione& s, int posto) {
+  if (p.Aggiornamento == 1) return;
+  SceltaAcciaio(s, posto);
+  pnn1_aggiorna_materiali(p, s);
+}
+
+void Cb_Vite_Click(InsDati& p, Sessione& s, int posto) {
+  if (p.Aggiornamento == 1) return;
+  SceltaVite(s, posto);
+  pnn1_aggiorna_materiali(p, s);
 }
 
 }  // namespace qf17

@@ -33,6 +33,9 @@ void Cambia_lato_asta_L(InsDati& p, Sessione& s, int indice);
 // The method option: steels as the materials keep them per method, the load case boxes shown or
 // hidden, the capacity cells again.
 void TipoVer_Click(InsDati& p, Sessione& s, std::int16_t metodo);
+// The steel and bolt class combos at list place `posto`.
+void Cb_Acciaio_Click(InsDati& p, Sessione& s, int posto);
+void Cb_Vite_Click(InsDati& p, Sessione& s, int posto);
 // The exposure combo at place `posto` (0..2).
 void ComboEsposizione_Click(InsDati& p, Sessione& s, int posto);
 

@@ -43,7 +43,7 @@ void RigaSoll(InsDati& p, const Nodo& n, const UnitaLavoro& u, int riga, int j) 
 }  // namespace
 
 void pnn1_aggiorna_sollecitazioni(InsDati& p, Nodo& n, const UnitaLavoro& u, int prima) {
-  n.Aggiornamento = 1;
+  p.Aggiornamento = 1;
   if (prima != -1) p.primaSoll = prima;
   const int ultimaPrima = std::max(1, n.nSollAg - (kRigheSoll - 1));
   p.primaSoll = std::clamp(p.primaSoll, 1, ultimaPrima);
@@ -59,11 +59,11 @@ void pnn1_aggiorna_sollecitazioni(InsDati& p, Nodo& n, const UnitaLavoro& u, int
        {"RimuoviUltSoll", "RimuoviTutteSoll", "RimuoviDoppieSoll", "MaxMinSoll"}) {
     p.c(pulsante).abilitato = n.nSollAg >= 1;
   }
-  n.Aggiornamento = 0;
+  p.Aggiornamento = 0;
 }
 
 void Bt_agg_sing_sol(InsDati& p, Nodo& n, const UnitaLavoro& u, Piattaforma& piattaforma) {
-  if (n.Aggiornamento == 1) return;
+  if (p.Aggiornamento == 1) return;
   if (n.nSollAg >= kMassimoAggiunte) {
     piattaforma.Messaggio("E' stato raggiunto il numero massimo di sollecitazioni.", "ERRORE",
                           Icona::Critica, Pulsanti::Ok);
@@ -77,13 +77,13 @@ void Bt_agg_sing_sol(InsDati& p, Nodo& n, const UnitaLavoro& u, Piattaforma& pia
 }
 
 void RimuoviUltSoll(InsDati& p, Nodo& n, const UnitaLavoro& u) {
-  if (n.Aggiornamento == 1 || n.nSollAg <= 0) return;
+  if (p.Aggiornamento == 1 || n.nSollAg <= 0) return;
   --n.nSollAg;
   pnn1_aggiorna_sollecitazioni(p, n, u, -1);
 }
 
 void RimuoviTutteSoll(InsDati& p, Nodo& n, const UnitaLavoro& u, Piattaforma& piattaforma) {
-  if (n.Aggiornamento == 1) return;
+  if (p.Aggiornamento == 1) return;
   if (piattaforma.Messaggio("Rimozione totale dei dati relativi alle sollecitazioni agenti?",
                             "ATTENZIONE!", Icona::Attenzione,
                             Pulsanti::OkAnnulla) != Risposta::Ok) {
@@ -94,7 +94,7 @@ void RimuoviTutteSoll(InsDati& p, Nodo& n, const UnitaLavoro& u, Piattaforma& pi
 }
 
 void Lb_sol_num_Click(InsDati& p, Nodo& n, const UnitaLavoro& u, int riga) {
-  if (n.Aggiornamento == 1) return;
+  if (p.Aggiornamento == 1) return;
   const int j = SetDellaRiga(p, riga);
   if (j < 1 || j > n.nSollAg) return;
   RimuoviSoll(n, j);
@@ -102,7 +102,7 @@ void Lb_sol_num_Click(InsDati& p, Nodo& n, const UnitaLavoro& u, int riga) {
 }
 
 void CasCar_Click(InsDati& p, Nodo& n, int riga, bool spuntata) {
-  if (n.Aggiornamento == 1) return;
+  if (p.Aggiornamento == 1) return;
   const int j = SetDellaRiga(p, riga);
   if (j >= 1) n.CasoCarico[j] = spuntata ? 1 : 0;
 }
