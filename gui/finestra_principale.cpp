@@ -70,7 +70,7 @@ QWidget* FinestraPrincipale::Widget(const std::string& nome, int indice) const {
 
 QLineEdit* FinestraPrincipale::NuovaCasella(FamigliaCasella famiglia, int indice) {
   auto* e = new QLineEdit(this);
-  e->setMaximumWidth(famiglia == FamigliaCasella::Tb_sol_descr ? 10000 : 90);
+  if (famiglia != FamigliaCasella::Tb_sol_descr) e->setFixedWidth(80);
   Registra(e, std::string(NomeCasella(famiglia)), indice);
   caselle_[e] = {famiglia, indice};
   e->installEventFilter(this);
