@@ -8,7 +8,7 @@ JOBS ?= 2
 
 PACCHETTI = cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev \
             libcli11-dev nlohmann-json3-dev hershey-fonts-data locales \
-            python3-ezdxf librecad poppler-utils qt6-base-dev libgl-dev fonts-dejavu-core
+            python3-ezdxf librecad poppler-utils qt6-base-dev qt6-svg-dev libgl-dev fonts-dejavu-core
 PACCHETTI_FUZZ = clang libclang-rt-14-dev
 
 .PHONY: all dipendenze dipendenze-fuzz locale-it installa build test demo fuzz clean

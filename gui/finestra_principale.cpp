@@ -316,6 +316,7 @@ QWidget* FinestraPrincipale::Comandi() {
   }
   v->addSpacing(12);
   pulsante("VerificaButt", QStringLiteral("Verifica"), [this] { Verifica(); });
+  pulsante("ApriVis", QStringLiteral("Mostra il disegno"), [this] { ApriVis(s_); });
   pulsante("Gen_Dis", QStringLiteral("Disegno esecutivo..."), [this] { GeneraDisegno(s_); });
   pulsante("LegendaButt", QStringLiteral("Legenda della relazione di calcolo"),
            [this] { LegendaButt(s_); });

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QUrl>
 
+#include "finestra_disegno.h"
 #include "finestra_relazione.h"
 
 namespace qf17 {
@@ -115,6 +116,8 @@ bool PiattaformaQt::Mostra(Vista vista, const std::string& file) {
   switch (vista) {
     case Vista::Relazione:
       return FinestraRelazione::Apri(Q(file), finestra_);
+    case Vista::Disegno:
+      return FinestraDisegno::Apri(Q(file), finestra_);
     case Vista::Guida:
       return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(file)));
   }

@@ -18,6 +18,8 @@ inline constexpr std::string_view kCreazioneDisegnoFallita = "Errore: creazione 
 
 // The viewer hand-over, in the program folder.
 inline constexpr std::string_view kFileNodoDis = "nodo.dis";
+// Its preview in the temp folder, for a platform with a drawing viewer of its own.
+inline constexpr std::string_view kFileNodoSvg = "nodo.svg";
 inline constexpr std::string_view kFileIngressoVisualizzatore = "grafview.inp";
 inline constexpr std::string_view kProgrammaVisualizzatore = "grafview.exe";
 inline constexpr std::string_view kTitoloVisualizzatore = "VISUALIZZAZIONE FILE DISEGNO - ";
@@ -52,6 +54,7 @@ bool GeneraDisegno(Sessione& s);
 
 // The full path of nodo.dis in the program folder.
 std::string PercorsoNodoDis(const Sessione& s);
+std::string PercorsoNodoSvg(const Sessione& s);
 // The content of grafview.inp for the file `dis`: 2, its path, the window 0 0 8000 8000, one a
 // line in the DIS files' number form, Windows-1252 with CR LF.
 std::string TestoIngressoVisualizzatore(const std::string& dis);
@@ -59,9 +62,11 @@ std::string TestoIngressoVisualizzatore(const std::string& dis);
 // nodo.dis in the program folder, silently. True when written.
 bool SalvaNodoDis(Sessione& s);
 
-// Shows the sheet in the viewer: nodo.dis is written, then a viewer already showing it is
-// brought to the front and told to reload; with none, grafview.inp is written and the viewer
-// started from the program folder. If it cannot be started the user is told; nodo.dis stays.
+// Shows the sheet in the viewer: nodo.dis is written, and its preview nodo.svg in the temp
+// folder; a platform with a drawing viewer of its own shows that. Otherwise a family viewer
+// already showing nodo.dis is brought to the front and told to reload; with none, grafview.inp
+// is written and the viewer started from the program folder. If it cannot be started the user
+// is told; nodo.dis stays.
 void ApriVisualizzatore(Sessione& s);
 
 // The viewer button: the sheet in the viewer, then qf7tmp.grb in the job folder, silently, for

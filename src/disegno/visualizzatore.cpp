@@ -1,6 +1,7 @@
 #include <string>
 
 #include "disegno/esporta_disegno.h"
+#include "disegno/formati/salva_svg.h"
 #include "disegno/puntatore_occupato.h"
 #include "librerie/numeri.h"
 #include "nodo/sessione.h"
@@ -21,6 +22,10 @@ std::string TestoIngressoVisualizzatore(const std::string& dis) {
   return c;
 }
 
+std::string PercorsoNodoSvg(const Sessione& s) {
+  return (Percorso(s.cartelle.temp) / kFileNodoSvg).string();
+}
+
 bool SalvaNodoDis(Sessione& s) {
   return EsportaDisegno(s, PercorsoNodoDis(s), 1, "DIS");
 }
@@ -28,6 +33,9 @@ bool SalvaNodoDis(Sessione& s) {
 void ApriVisualizzatore(Sessione& s) {
   PuntatoreOccupato occupato(s.piattaforma);
   SalvaNodoDis(s);
+  // A platform with a drawing viewer of its own shows the sheet as nodo.dis holds it.
+  const std::string svg = PercorsoNodoSvg(s);
+  if (SalvaSvg(s, svg, 1) && s.piattaforma.Mostra(Vista::Disegno, svg)) return;
   const std::string dis = PercorsoNodoDis(s);
   if (s.piattaforma.AttivaFinestra(std::string(kTitoloVisualizzatore) + dis,
                                    std::string(kTastiRicarica))) {

@@ -12,7 +12,7 @@ enum class Icona { Nessuna, Informazione, Attenzione, Critica, Domanda };
 enum class Pulsanti { Ok, OkAnnulla };
 enum class Risposta { Ok, Annulla };
 // What a file shown to the user is: the platform picks the viewer.
-enum class Vista { Relazione, Guida };
+enum class Vista { Relazione, Disegno, Guida };
 
 // What an open or save dialog is asked for. `filtro` uses the family's "Text|*.ext|..." form.
 struct RichiestaFile {

@@ -50,6 +50,7 @@ void PiattaformaRegistrata::Occupato(bool acceso) {
 
 bool PiattaformaRegistrata::Mostra(Vista vista, const std::string& file) {
   viste.emplace_back(vista, file);
+  if (vista == Vista::Disegno && !mostraDisegni) return false;
   if (esitiAvvio.empty()) return true;
   const bool esito = esitiAvvio.front();
   esitiAvvio.pop_front();

@@ -52,6 +52,8 @@ class PiattaformaRegistrata : public Piattaforma {
   std::vector<RichiestaFile> richiesteFile;
   std::vector<AvvioVisto> avvii;
   std::vector<std::pair<Vista, std::string>> viste;  // files shown, answered as esitiAvvio
+  // A drawing viewer of its own; without one a drawing goes to the family's viewer.
+  bool mostraDisegni = false;
   std::vector<FinestraCercata> finestreCercate;
   int cambiOccupato = 0;
   bool occupato = false;

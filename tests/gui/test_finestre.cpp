@@ -18,6 +18,7 @@
 #include <memory>
 
 #include "dialogo_bulloni.h"
+#include "finestra_disegno.h"
 #include "finestra_principale.h"
 #include "finestra_relazione.h"
 #include "nodo/avvio.h"
@@ -39,6 +40,7 @@ class TestFinestre : public QObject {
   void SollecitazioniFinoAlLimite();
   void VerificaMostraLaRelazione();
   void EditorDeiBulloniDalloSchema();
+  void DisegnoNellaSuaFinestra();
 
  private:
   template <class T>
@@ -205,6 +207,28 @@ void TestFinestre::EditorDeiBulloniDalloSchema() {
   QCOMPARE(s->nodo.xBull(2, 1), x1);  // appended after the sample's bolts
   QCOMPARE(s->nodo.xBull(2, prima + 2), 87.0);
   QCOMPARE(s->nodo.yBull(2, prima + 4), 69.0);
+}
+
+// "Mostra il disegno": the sheet in the program's own drawing window, fitted; the wheel zooms
+// round the pointer.
+void TestFinestre::DisegnoNellaSuaFinestra() {
+  W<QPushButton>("ApriVis")->click();
+  FinestraDisegno* disegno = nullptr;
+  for (QWidget* w : QApplication::topLevelWidgets()) {
+    if (auto* f = qobject_cast<FinestraDisegno*>(w); f && f->isVisible()) disegno = f;
+  }
+  QVERIFY(disegno != nullptr);
+  QVERIFY(disegno->Vista()->Disegno().isValid());
+  QVERIFY(std::filesystem::exists(std::filesystem::path(radice->path().toStdString()) / "temp" /
+                                  "nodo.svg"));
+  const double adattata = disegno->Vista()->Scala();
+  QWheelEvent rotella(QPointF(200, 200), disegno->Vista()->mapToGlobal(QPointF(200, 200)), QPoint(),
+                      QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(disegno->Vista(), &rotella);
+  QCOMPARE(disegno->Vista()->Scala(), adattata * 1.25);
+  disegno->Vista()->Adatta();
+  Schermata(disegno, QStringLiteral("disegno_ANGUPN"));
+  disegno->close();
 }
 
 }  // namespace qf17
