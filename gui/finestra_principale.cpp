@@ -20,6 +20,7 @@
 #include <QVBoxLayout>
 
 #include "dialogo_bulloni.h"
+#include "dialogo_opzioni.h"
 #include "disegno/esporta_disegno.h"
 #include "librerie/materiali.h"
 #include "nodo/panel/pannello.h"
@@ -317,6 +318,10 @@ QWidget* FinestraPrincipale::Comandi() {
   v->addSpacing(12);
   pulsante("VerificaButt", QStringLiteral("Verifica"), [this] { Verifica(); });
   pulsante("ApriVis", QStringLiteral("Mostra il disegno"), [this] { ApriVis(s_); });
+  pulsante("Opz", QStringLiteral("Opzioni"), [this] {
+    DialogoOpzioni dialogo(s_, this);
+    dialogo.exec();
+  });
   pulsante("Gen_Dis", QStringLiteral("Disegno esecutivo..."), [this] { GeneraDisegno(s_); });
   pulsante("LegendaButt", QStringLiteral("Legenda della relazione di calcolo"),
            [this] { LegendaButt(s_); });

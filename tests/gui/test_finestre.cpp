@@ -18,6 +18,7 @@
 #include <memory>
 
 #include "dialogo_bulloni.h"
+#include "dialogo_opzioni.h"
 #include "finestra_disegno.h"
 #include "finestra_principale.h"
 #include "finestra_relazione.h"
@@ -41,6 +42,7 @@ class TestFinestre : public QObject {
   void VerificaMostraLaRelazione();
   void EditorDeiBulloniDalloSchema();
   void DisegnoNellaSuaFinestra();
+  void OpzioniApplicaESalva();
 
  private:
   template <class T>
@@ -229,6 +231,50 @@ void TestFinestre::DisegnoNellaSuaFinestra() {
   disegno->Vista()->Adatta();
   Schermata(disegno, QStringLiteral("disegno_ANGUPN"));
   disegno->close();
+}
+
+// The options form: "Quote" unticked takes "Quote Saldature" with it; a dimension text height
+// typed and "Applica" reaches the options and shows the sheet; "Salva" writes the options file.
+void TestFinestre::OpzioniApplicaESalva() {
+  const auto file =
+      std::filesystem::path(radice->path().toStdString()) / "custom" / "OpzioniQf7.txt";
+  std::filesystem::remove(file);
+  Poi([this, &file](QWidget* w) {
+    auto* dialogo = qobject_cast<DialogoOpzioni*>(w);
+    QVERIFY(dialogo != nullptr);
+    Schermata(dialogo, QStringLiteral("opzioni"));
+    QCheckBox *quote = nullptr, *saldature = nullptr;
+    for (QCheckBox* c : dialogo->findChildren<QCheckBox*>()) {
+      if (c->text() == QStringLiteral("Quote")) quote = c;
+      if (c->text() == QStringLiteral("Quote Saldature")) saldature = c;
+    }
+    QVERIFY(quote && saldature);
+    if (!quote->isChecked()) quote->click();
+    saldature->click();
+    QVERIFY(saldature->isChecked());
+    quote->click();
+    QVERIFY(!saldature->isChecked());
+    QVERIFY(!saldature->isEnabled());
+    auto caselle = dialogo->findChildren<QLineEdit*>();
+    caselle[7]->setText(QStringLiteral("5"));  // "Altezza testo quote"
+    auto premi = [dialogo](const char* testo) {
+      for (QPushButton* b : dialogo->findChildren<QPushButton*>()) {
+        if (b->text() == QLatin1String(testo)) b->click();
+      }
+    };
+    premi("Applica");
+    QCOMPARE(s->opzioni[7], 5.0);
+    QCOMPARE(s->opzioni[15], 0.0);
+    premi("Salva");
+    QVERIFY(std::filesystem::exists(file));
+    premi("Chiudi");
+  });
+  W<QPushButton>("Opz")->click();
+  bool disegno = false;
+  for (QWidget* w : QApplication::topLevelWidgets()) {
+    if (auto* f = qobject_cast<FinestraDisegno*>(w); f && f->isVisible()) disegno = true;
+  }
+  QVERIFY(disegno);
 }
 
 }  // namespace qf17
