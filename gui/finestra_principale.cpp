@@ -20,6 +20,7 @@
 #include <QVBoxLayout>
 
 #include "dialogo_bulloni.h"
+#include "dialogo_materiali.h"
 #include "dialogo_opzioni.h"
 #include "disegno/esporta_disegno.h"
 #include "librerie/materiali.h"
@@ -209,7 +210,18 @@ QWidget* FinestraPrincipale::PaginaMateriali() {
             ComboEsposizione_Click(p_, s_, i);
             Dipingi();
           });
-  g->setRowStretch(4, 1);
+  auto* proprieta = new QPushButton(QStringLiteral("Proprietà"), pagina);
+  Registra(proprieta, "PropMatButton");
+  connect(proprieta, &QPushButton::clicked, this, [this] {
+    DialogoMateriali dialogo(s_, this);
+    connect(&dialogo, &DialogoMateriali::MaterialiCambiati, this, [this] {
+      pnn1_aggiorna_materiali(p_, s_);
+      Dipingi();
+    });
+    dialogo.exec();
+  });
+  g->addWidget(proprieta, 4, 1);
+  g->setRowStretch(5, 1);
   g->setColumnStretch(2, 1);
   return pagina;
 }

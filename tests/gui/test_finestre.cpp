@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -18,6 +19,7 @@
 #include <memory>
 
 #include "dialogo_bulloni.h"
+#include "dialogo_materiali.h"
 #include "dialogo_opzioni.h"
 #include "finestra_disegno.h"
 #include "finestra_principale.h"
@@ -43,6 +45,7 @@ class TestFinestre : public QObject {
   void EditorDeiBulloniDalloSchema();
   void DisegnoNellaSuaFinestra();
   void OpzioniApplicaESalva();
+  void ProprietaDeiMateriali();
 
  private:
   template <class T>
@@ -275,6 +278,24 @@ void TestFinestre::OpzioniApplicaESalva() {
     if (auto* f = qobject_cast<FinestraDisegno*>(w); f && f->isVisible()) disegno = true;
   }
   QVERIFY(disegno);
+}
+
+// The materials' properties of ANGUPN's S 275 and 8.8 in daN/cm2, to the job's one decimal:
+// fy40 / gM = 2550 / 1.05 = 2428.57 -> 2428.6, S_adm II = 1900 x 1.125 = 2137.5; the bolts'
+// ftd = 8000 / 1.25 = 6400.
+void TestFinestre::ProprietaDeiMateriali() {
+  QStringList testi;
+  Poi([this, &testi](QWidget* w) {
+    auto* dialogo = qobject_cast<DialogoMateriali*>(w);
+    QVERIFY(dialogo != nullptr);
+    for (QLabel* l : dialogo->findChildren<QLabel*>()) testi << l->text();
+    Schermata(dialogo, QStringLiteral("materiali"));
+    dialogo->reject();
+  });
+  W<QPushButton>("PropMatButton")->click();
+  QVERIFY(testi.contains(QStringLiteral("2428.6 daN/cm2")));
+  QVERIFY(testi.contains(QStringLiteral("2137.5 daN/cm2")));
+  QVERIFY(testi.contains(QStringLiteral("6400 daN/cm2")));
 }
 
 }  // namespace qf17
