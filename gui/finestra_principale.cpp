@@ -24,6 +24,7 @@
 #include "dialogo_opzioni.h"
 #include "disegno/esporta_disegno.h"
 #include "librerie/materiali.h"
+#include "librerie/unita_lavoro.h"
 #include "nodo/panel/pannello.h"
 #include "nodo/panel/profili_pannello.h"
 #include "nodo/sessione.h"
@@ -401,6 +402,18 @@ bool FinestraPrincipale::eventFilter(QObject* oggetto, QEvent* evento) {
     if (trovata != caselle_.end()) {
       TbRipristina(p_, s_.nodo, s_.unita, s_.piattaforma, trovata->second);
       Dipingi();
+      return true;
+    }
+  }
+  if (evento->type() == QEvent::MouseButtonDblClick) {
+    // The unit tool on a load box: its answer stands in the box until the box is left.
+    const auto trovata = caselle_.find(oggetto);
+    const FamigliaCasella f =
+        trovata == caselle_.end() ? FamigliaCasella::FzTxt : trovata->second.famiglia;
+    if (f == FamigliaCasella::Txt1 || f == FamigliaCasella::Txt2 || f == FamigliaCasella::Txt3) {
+      auto* box = static_cast<QLineEdit*>(oggetto);
+      const int casella = static_cast<int>(f) - static_cast<int>(FamigliaCasella::Txt1) + 1;
+      box->setText(Q(TbDblClick(s_, casella, box->text().toStdString())));
       return true;
     }
   }

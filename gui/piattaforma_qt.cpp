@@ -1,15 +1,24 @@
 #include "piattaforma_qt.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDesktopServices>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
+#include <QPushButton>
 #include <QStringList>
 #include <QUrl>
 
 #include "finestra_disegno.h"
 #include "finestra_relazione.h"
+#include "librerie/numeri.h"
+#include "librerie/unita_lavoro.h"
 
 namespace qf17 {
 namespace {
@@ -122,6 +131,42 @@ bool PiattaformaQt::Mostra(Vista vista, const std::string& file) {
       return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(file)));
   }
   return false;
+}
+
+// The unit tool's place: a value in one of the force units, shown in the job's unit as it is
+// typed.
+std::optional<std::string> PiattaformaQt::ConvertiForza(const std::string& valore,
+                                                        const std::string& unita, double g) {
+  QDialog dialogo(finestra_);
+  dialogo.setWindowTitle(QStringLiteral("Conversione di unità"));
+  auto* campi = new QFormLayout(&dialogo);
+  auto* numero = new QLineEdit(Q(valore), &dialogo);
+  auto* unitaDi = new QComboBox(&dialogo);
+  for (std::string_view u : kUnitaForze) unitaDi->addItem(Q(std::string(u)));
+  unitaDi->setCurrentText(Q(unita));
+  auto* risultato = new QLabel(&dialogo);
+  campi->addRow(QStringLiteral("Valore"), numero);
+  campi->addRow(QStringLiteral("Unità del valore"), unitaDi);
+  campi->addRow(QStringLiteral("In ") + Q(unita), risultato);
+  auto* bottoni = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialogo);
+  bottoni->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Annulla"));
+  campi->addRow(bottoni);
+  std::string testo;
+  auto converti = [&] {
+    const double da = FattoreForza(unitaDi->currentText().toStdString(), g);
+    const double a = FattoreForza(unita, g);
+    const bool valido = da > 0 && a > 0;
+    testo = valido ? TestoNumero(NumeroIniziale(numero->text().toStdString()) / da * a) : "";
+    risultato->setText(Q(testo));
+    bottoni->button(QDialogButtonBox::Ok)->setEnabled(valido);
+  };
+  QObject::connect(numero, &QLineEdit::textChanged, &dialogo, converti);
+  QObject::connect(unitaDi, &QComboBox::currentTextChanged, &dialogo, converti);
+  QObject::connect(bottoni, &QDialogButtonBox::accepted, &dialogo, &QDialog::accept);
+  QObject::connect(bottoni, &QDialogButtonBox::rejected, &dialogo, &QDialog::reject);
+  converti();
+  if (dialogo.exec() != QDialog::Accepted) return std::nullopt;
+  return testo;
 }
 
 void PiattaformaQt::Occupato(bool acceso) {

@@ -20,6 +20,8 @@ class PiattaformaQt : public Piattaforma {
   bool Avvia(const std::string& programma, const std::string& argomenti, bool attendi) override;
   bool Mostra(Vista vista, const std::string& file) override;
   void Occupato(bool acceso) override;
+  std::optional<std::string> ConvertiForza(const std::string& valore, const std::string& unita,
+                                           double g) override;
 
   // "Text|*.ext|Text|*.ext" of the family as Qt's "Text (*.ext);;Text (*.ext)".
   static QString FiltroQt(const std::string& filtro);

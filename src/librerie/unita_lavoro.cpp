@@ -160,6 +160,10 @@ UnitaLavoro UnitaPredefinite() {
   return u;
 }
 
+double FattoreForza(std::string_view unita, double g) {
+  return Forza(unita, g).fattore;
+}
+
 std::vector<std::string> UnitaNonRiconosciute(const UnitaLavoro& u) {
   const std::tuple<const char*, const std::string&, bool> unita[] = {
       {"lunghezze", u.UniLunghezze, UnaDi(u.UniLunghezze, kLunghezze)},
@@ -239,7 +243,12 @@ std::optional<std::string> LanciaUnita(Sessione& sessione, std::string_view valo
                           "|fileout=" + sessione.nodo.DirLavoro + "\\UX_unimis.tmp|" +
                           ParteTitolo(titolo);
   const std::string programma = (Percorso(sessione.cartelle.progra) / "ux_unimis.exe").string();
-  if (!sessione.piattaforma.Avvia(programma, parametri, true)) return std::nullopt;
+  if (!sessione.piattaforma.Avvia(programma, parametri, true)) {
+    // This platform may have a converter of its own for forces.
+    if (categoria != 4) return std::nullopt;
+    return sessione.piattaforma.ConvertiForza(std::string(valore), std::string(unita),
+                                              sessione.unita.AccelG);
+  }
   auto righe = LeggiRighe(Percorso(sessione.cartelle.temp) / "ux_unimis.tmp");
   if (!righe || righe->empty()) return std::nullopt;
   return Rifila(righe->front());

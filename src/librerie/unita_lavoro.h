@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -24,6 +25,10 @@ void LeggiUnitaLavoro(Sessione& sessione);
 // a force followed by a length), each as its key and the name in quotes: `forze "KN"`.
 std::vector<std::string> UnitaNonRiconosciute(const UnitaLavoro& unita);
 
+// The force names of the rules, and the factor that turns daN into each (g the job's gravity).
+inline constexpr std::array<std::string_view, 5> kUnitaForze = {"daN", "kN", "N", "kgf", "t"};
+double FattoreForza(std::string_view unita, double g);
+
 // The unit names and constants of one parametrilavoro file into `unita`; the keys the file does
 // not hold leave their fields alone. False when the file cannot be read, is empty or holds a
 // number beyond range.
@@ -37,7 +42,8 @@ UnitaLavoro UnitaPredefinite();
 void ParUni(UnitaLavoro& unita);
 
 // Starts the unit tool and waits; on its end returns line 1 of ux_unimis.tmp in the temp folder,
-// trimmed. No value when the tool could not start or left no file. `titolo` is "assente" or
+// trimmed. No value when the tool could not start or left no file; a force (category 4) whose
+// tool could not start goes to the platform's ConvertiForza instead. `titolo` is "assente" or
 // empty for none, otherwise a bare title or one already in the "|titolo=...|" form.
 std::optional<std::string> LanciaUnita(Sessione& sessione, std::string_view valore, int categoria,
                                        std::string_view unita, std::string_view titolo);

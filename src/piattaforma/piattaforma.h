@@ -53,6 +53,13 @@ class Piattaforma {
   // Shows a file by what it is (a report, the help), not waited for. False when it cannot be
   // shown.
   virtual bool Mostra(Vista vista, const std::string& file) = 0;
+  // The unit tool's place where the family's tool cannot be started: the user gives `valore`
+  // of a force in another unit and gets it in the job's `unita` (`g` the job's gravity). The
+  // text for the box, or no value when the user cancels or the platform has no such tool.
+  virtual std::optional<std::string> ConvertiForza(const std::string& /*valore*/,
+                                                   const std::string& /*unita*/, double /*g*/) {
+    return std::nullopt;
+  }
   // The busy pointer, on while a long command runs.
   virtual void Occupato(bool acceso) = 0;
   // Brings the running window with exactly this title to the front and sends it the keystrokes

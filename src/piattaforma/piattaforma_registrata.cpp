@@ -57,4 +57,12 @@ bool PiattaformaRegistrata::Mostra(Vista vista, const std::string& file) {
   return esito;
 }
 
+std::optional<std::string> PiattaformaRegistrata::ConvertiForza(const std::string&,
+                                                                const std::string&, double) {
+  if (conversioni.empty()) return std::nullopt;
+  auto risposta = conversioni.front();
+  conversioni.pop_front();
+  return risposta;
+}
+
 }  // namespace qf17

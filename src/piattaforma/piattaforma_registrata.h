@@ -54,6 +54,10 @@ class PiattaformaRegistrata : public Piattaforma {
   std::vector<std::pair<Vista, std::string>> viste;  // files shown, answered as esitiAvvio
   // A drawing viewer of its own; without one a drawing goes to the family's viewer.
   bool mostraDisegni = false;
+  // Answers of the built-in unit converter, used in order; dry, it is cancelled.
+  std::deque<std::optional<std::string>> conversioni;
+  std::optional<std::string> ConvertiForza(const std::string& valore, const std::string& unita,
+                                           double g) override;
   std::vector<FinestraCercata> finestreCercate;
   int cambiOccupato = 0;
   bool occupato = false;

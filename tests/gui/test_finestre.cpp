@@ -46,6 +46,7 @@ class TestFinestre : public QObject {
   void DisegnoNellaSuaFinestra();
   void OpzioniApplicaESalva();
   void ProprietaDeiMateriali();
+  void ConvertitoreDelleForze();
 
  private:
   template <class T>
@@ -296,6 +297,31 @@ void TestFinestre::ProprietaDeiMateriali() {
   QVERIFY(testi.contains(QStringLiteral("2428.6 daN/cm2")));
   QVERIFY(testi.contains(QStringLiteral("2137.5 daN/cm2")));
   QVERIFY(testi.contains(QStringLiteral("6400 daN/cm2")));
+}
+
+// A double click on a force box with no unit tool installed: the built-in converter takes 2 kN
+// and gives 200 daN (1 daN = 1/100 kN) into the box, which is taken on Enter.
+void TestFinestre::ConvertitoreDelleForze() {
+  W<QPushButton>("Bt_agg_sing_sol")->click();
+  const int j = s->nodo.nSollAg;
+  auto* box = W<QLineEdit>("Txt1", 3);
+  QVERIFY(box != nullptr);
+  Poi([this](QWidget* w) {
+    auto* numero = w->findChild<QLineEdit*>();
+    auto* unita = w->findChild<QComboBox*>();
+    QVERIFY(numero && unita);
+    numero->setText(QStringLiteral("2"));
+    unita->setCurrentText(QStringLiteral("kN"));
+    Schermata(w, QStringLiteral("convertitore"));
+    for (QPushButton* b : w->findChildren<QPushButton*>()) {
+      if (b->text() == QStringLiteral("OK") || b->text() == QStringLiteral("&OK")) b->click();
+    }
+  });
+  box->setFocus();
+  QTest::mouseDClick(box, Qt::LeftButton);
+  QCOMPARE(box->text(), QStringLiteral("200"));
+  QTest::keyClick(box, Qt::Key_Return);
+  QCOMPARE(s->nodo.SforzoNormale(1, j), 200.0);
 }
 
 }  // namespace qf17

@@ -243,6 +243,10 @@ TEST_F(UnitaLavoroFile, StrumentoCheNonParteOSenzaRisposta) {
   EXPECT_EQ(TbDblClick(sessione_, 1, "4"), "4");
   EXPECT_EQ(TbDblClick(sessione_, 4, "5"), "5");  // no such box
   EXPECT_EQ(piattaforma_.avvii.size(), 2u);
+  // A platform with a converter of its own answers in the tool's place.
+  piattaforma_.esitiAvvio = {false};
+  piattaforma_.conversioni = {"0.25"};
+  EXPECT_EQ(TbDblClick(sessione_, 1, "25"), "0.25");
 }
 
 TEST_F(UnitaLavoroFile, TitoliDelloStrumento) {
