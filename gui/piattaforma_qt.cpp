@@ -89,11 +89,15 @@ Risposta PiattaformaQt::MostraMessaggio(const std::string& testo, const std::str
 
 std::optional<FileScelto> PiattaformaQt::ScegliFileDaAprire(const RichiestaFile& r) {
   const QString filtri = FiltroQt(r.filtro);
-  QString scelto = FiltroIniziale(filtri, r.indiceFiltro);
-  const QString file =
-      QFileDialog::getOpenFileName(finestra_, Q(r.titolo), CartellaENome(r), filtri, &scelto);
-  if (file.isEmpty()) return std::nullopt;
-  return FileScelto{file.toStdString(), IndiceFiltro(filtri, scelto)};
+  QFileDialog dialogo(finestra_, Q(r.titolo), CartellaENome(r), filtri);
+  dialogo.setAcceptMode(QFileDialog::AcceptOpen);
+  dialogo.setFileMode(QFileDialog::ExistingFile);
+  dialogo.selectNameFilter(FiltroIniziale(filtri, r.indiceFiltro));
+  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) {
+    return std::nullopt;
+  }
+  return FileScelto{dialogo.selectedFiles().front().toStdString(),
+                    IndiceFiltro(filtri, dialogo.selectedNameFilter())};
 }
 
 std::optional<FileScelto> PiattaformaQt::ScegliFileDaSalvare(const RichiestaFile& r) {

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -38,6 +39,7 @@ class TestFinestre : public QObject {
  private slots:
   void init();
   void cleanup();
+  void OgniEsempioNelPannello();
   void CaselleInvioEdEsc();
   void SezioneEModoOpposto();
   void SollecitazioniFinoAlLimite();
@@ -97,6 +99,30 @@ void TestFinestre::Schermata(QWidget* w, const QString& nome) {
   if (cartella.isEmpty()) return;
   QDir().mkpath(cartella);
   QVERIFY(w->grab().save(cartella + QStringLiteral("/") + nome + QStringLiteral(".png")));
+}
+
+// Each sample opened with the open button (the dialog answered with its file): the window's
+// title names it and the combos show its sections.
+void TestFinestre::OgniEsempioNelPannello() {
+  const std::pair<const char*, const char*> esempi[] = {
+      {"ANGUPN", "UPN160"}, {"DOPPIO", "LU100x10"}, {"HEASALD", "HEA200"}, {"MOLTESOLL", "UPN200"}};
+  for (const auto& [nome, corrente] : esempi) {
+    const QString file = radice->path() + QStringLiteral("/lavori/esempi/") + QLatin1String(nome) +
+                         QStringLiteral(".qf7");
+    Poi([file](QWidget* w) {
+      auto* dialogo = qobject_cast<QFileDialog*>(w);
+      QVERIFY(dialogo != nullptr);
+      // As a user types the name and presses Enter.
+      auto* nome = dialogo->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+      QVERIFY(nome != nullptr);
+      nome->setText(file);
+      QTest::keyClick(nome, Qt::Key_Return);
+    });
+    W<QPushButton>("Car_Nodo")->click();
+    QVERIFY(finestra->windowTitle().endsWith(QLatin1String(nome) + QStringLiteral(".qf7")));
+    QCOMPARE(W<QComboBox>("Cb_Asta", 0)->currentText(), QLatin1String(corrente));
+    Schermata(finestra.get(), QStringLiteral("principale_") + QLatin1String(nome));
+  }
 }
 
 // A gusset size typed and Enter: the node takes it. Escape on another box puts the node's value

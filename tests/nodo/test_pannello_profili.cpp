@@ -68,6 +68,8 @@ TEST_F(PannelloProfili, ModiELati) {
   EXPECT_EQ(p.c("OpB_aste_c", 2).valore, 1);
   Cambia_lato_asta_L(p, sessione, 1);
   EXPECT_EQ(n.Ast_lato[2], 1);
+  EXPECT_FALSE(p.c("L2").abilitato);
+  EXPECT_TRUE(p.c("L").abilitato);
   Cambia_lato_asta_L(p, sessione, 0);
   EXPECT_EQ(n.Ast_lato[1], 0);
   // Double: the capacity cells double (940 mm2: 2 x 9.4 = 18.8 -> 19, 2 x 150400 -> 300000).

@@ -65,6 +65,9 @@ void pnn1_aggiorna_profili(InsDati& p, Sessione& s, std::array<bool, 4> giaValid
       p.c(nome, indice).abilitato = presente;
     }
     p.c("Bt_bul_asta_" + Lettera(i)).abilitato = presente;
+    // Only an angle turns over: the side label of any other member does nothing.
+    const char* const lati[] = {"", "L", "L2", "L4"};
+    p.c(lati[i]).abilitato = presente && n.Aste[i].Tipo == 1;
   }
   p.c("Bt_bul_corr").abilitato = n.Corrente.Tipo != 2;
   p.Aggiornamento = 0;
