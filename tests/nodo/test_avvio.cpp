@@ -15,12 +15,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A private copy of the staged sample installation that each test may damage.
+// A private copy of the sample installation that each test may damage. It is copied from the
+// sources: the staged one has job folders where the command-line tests write and remove reports
+// while this copy is being made.
 class Avvio_ : public ::testing::Test {
  public:
   void SetUp() override {
     fs::remove_all(radice_);
-    fs::copy(QF17_INSTALLAZIONE, radice_, fs::copy_options::recursive);
+    fs::copy(fs::path(QF17_SORGENTI) / "installazione", radice_, fs::copy_options::recursive);
     Scrivi("impostazioni/dirlav", (radice_ / "lavori").string() + "\r\n");
   }
   void TearDown() override { fs::remove_all(radice_); }
