@@ -12,6 +12,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
@@ -123,6 +125,13 @@ void TestFinestre::OgniEsempioNelPannello() {
     QCOMPARE(W<QComboBox>("Cb_Asta", 0)->currentText(), QLatin1String(corrente));
     Schermata(finestra.get(), QStringLiteral("principale_") + QLatin1String(nome));
   }
+  // MOLTESOLL's load sets: four rows and the scroll bar.
+  auto* schede = finestra->findChild<QTabWidget*>(QStringLiteral("SSTab"));
+  schede->setCurrentIndex(2);
+  QVERIFY(W<QScrollBar>("VScrollSoll")->isEnabled());
+  QCOMPARE(W<QPushButton>("Lb_sol_num", 3)->text(), QStringLiteral("4"));
+  Schermata(finestra.get(), QStringLiteral("sollecitazioni_MOLTESOLL"));
+  schede->setCurrentIndex(0);
 }
 
 // A gusset size typed and Enter: the node takes it. Escape on another box puts the node's value
