@@ -450,9 +450,11 @@ void FinestraPrincipale::Dipingi() {
     } else if (auto* r = qobject_cast<QRadioButton*>(w)) {
       r->setChecked(c->valore == 1);
     } else if (auto* cb = qobject_cast<QComboBox*>(w)) {
-      if (cb->count() != static_cast<int>(c->voci.size())) {
+      std::vector<std::string>& mostrate = vociMostrate_[cb];
+      if (mostrate != c->voci) {
         cb->clear();
         for (const std::string& v : c->voci) cb->addItem(Q(v));
+        mostrate = c->voci;
       }
       cb->setCurrentIndex(c->selezione);
     } else if (auto* sb = qobject_cast<QScrollBar*>(w)) {

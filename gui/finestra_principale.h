@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "bulloni/form_bulloni.h"
 #include "nodo/panel/ins_dati.h"
@@ -51,6 +52,8 @@ class FinestraPrincipale : public QMainWindow {
   InsDati p_;
   std::unordered_map<std::string, QWidget*> widget_;
   std::unordered_map<QObject*, qf17::Casella> caselle_;
+  // The items each combo shows, to fill it again only when its list changed.
+  std::unordered_map<QWidget*, std::vector<std::string>> vociMostrate_;
   VistaPrimitive* schema_ = nullptr;
 };
 
