@@ -14,20 +14,12 @@
 namespace qf17 {
 namespace {
 
-std::string SenzaSpazi(std::string_view testo) {
-  std::string s;
-  for (char c : testo) {
-    if (c != ' ') s += c;
-  }
-  return s;
-}
-
 // The place in a combo's list of the section named `nome`, blanks ignored; -1 if none.
 int PostoInLista(const LibreriaProfili& libreria, const std::vector<std::int16_t>& lista,
                  const std::string& nome) {
-  const std::string cercato = SenzaSpazi(nome);
+  const std::string cercato = RimuoviSpazi(nome);
   for (std::size_t k = 0; k < lista.size(); ++k) {
-    if (SenzaSpazi(libreria.Profili[lista[k]].Nome) == cercato) return static_cast<int>(k);
+    if (RimuoviSpazi(libreria.Profili[lista[k]].Nome) == cercato) return static_cast<int>(k);
   }
   return -1;
 }

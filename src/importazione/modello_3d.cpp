@@ -2,7 +2,9 @@
 
 #include <bit>
 #include <cstdint>
+#include <stdexcept>
 #include <type_traits>
+#include <utility>
 
 #include "librerie/numeri.h"
 #include "librerie/token.h"
@@ -112,6 +114,23 @@ T Piccolo(const std::string& byte, std::size_t posizione) {
   return std::bit_cast<T>(bit);
 }
 
+// Reads a text file of the model with `lettore`; a file that cannot be opened, or that ends or
+// breaks before its counts say, is the family's "errato o mancante".
+template <class Lettore>
+auto LeggiFileModello(const std::filesystem::path& file, Piattaforma& p, Lettore lettore)
+    -> decltype(lettore(std::declval<std::vector<std::string>&>())) {
+  if (auto testo = LeggiRighe(file)) {
+    try {
+      return lettore(*testo);
+    } catch (const FileGuasto&) {
+    } catch (const std::out_of_range&) {
+    } catch (const ErroreFatale&) {
+    }
+  }
+  Mancante(file, p);
+  return std::nullopt;
+}
+
 }  // namespace
 
 bool ControllaRelease(std::string_view riga, bool fine, Piattaforma& p) {
@@ -122,74 +141,58 @@ bool ControllaRelease(std::string_view riga, bool fine, Piattaforma& p) {
 }
 
 std::optional<StrutturaModello> LeggiStruttura(const std::filesystem::path& file, Piattaforma& p) {
-  auto testo = LeggiRighe(file);
-  if (!testo) {
-    Mancante(file, p);
-    return std::nullopt;
-  }
-  try {
-    Righe r(std::move(*testo));
-    if (!ControllaRelease(r.Prossima(), true, p)) return std::nullopt;
-    StrutturaModello s;
-    // The point count stands in a field of 20 characters, left or right aligned.
-    const std::string& conteggio = r.Prossima();
-    const int punti = static_cast<int>(NumeroIniziale(Rifila(conteggio.substr(0, 20))));
-    for (int k = 0; k < punti; ++k) {
-      const auto v = r.ProssimiValori();
-      if (v.size() < 3) throw FileGuasto{};
-      s.punti.push_back({NumeroIniziale(v[0]), NumeroIniziale(v[1]), NumeroIniziale(v[2])});
-    }
-    const int nodi = r.Conteggio();
-    for (int k = 0; k < nodi; ++k) {
-      const auto v = r.ProssimiValori();
-      if (v.size() < 4) throw FileGuasto{};
-      s.nodi.push_back({InI16(NumeroIniziale(v[0])), InI16(NumeroIniziale(v[3]))});
-      r.Salta(1);
-    }
-    const int aste = r.Conteggio();
-    for (int k = 0; k < aste; ++k) {
-      const auto a = r.ProssimiValori();
-      const auto b = r.ProssimiValori();
-      if (a.size() < 4 || b.size() < 2) throw FileGuasto{};
-      s.aste.push_back({InI16(NumeroIniziale(a[0])), InI16(NumeroIniziale(a[1])),
-                        InI16(NumeroIniziale(a[2])), InI16(NumeroIniziale(a[3])),
-                        static_cast<int>(NumeroIniziale(b[0])),
-                        static_cast<int>(NumeroIniziale(b[1]))});
-    }
-    r.Salta(2 * r.Conteggio());
-    for (int blocco = 0; blocco < 3; ++blocco) r.Salta(r.Conteggio());
-    s.condizioni = r.Conteggio();
-    return s;
-  } catch (const FileGuasto&) {
-  } catch (const ErroreFatale&) {
-  }
-  Mancante(file, p);
-  return std::nullopt;
+  return LeggiFileModello(
+      file, p, [&p](std::vector<std::string>& testo) -> std::optional<StrutturaModello> {
+        Righe r(std::move(testo));
+        if (!ControllaRelease(r.Prossima(), true, p)) return std::nullopt;
+        StrutturaModello s;
+        // The point count stands in a field of 20 characters, left or right aligned.
+        const std::string& conteggio = r.Prossima();
+        const int punti = static_cast<int>(NumeroIniziale(Rifila(conteggio.substr(0, 20))));
+        for (int k = 0; k < punti; ++k) {
+          const auto v = r.ProssimiValori();
+          if (v.size() < 3) throw FileGuasto{};
+          s.punti.push_back({NumeroIniziale(v[0]), NumeroIniziale(v[1]), NumeroIniziale(v[2])});
+        }
+        const int nodi = r.Conteggio();
+        for (int k = 0; k < nodi; ++k) {
+          const auto v = r.ProssimiValori();
+          if (v.size() < 4) throw FileGuasto{};
+          s.nodi.push_back({InI16(NumeroIniziale(v[0])), InI16(NumeroIniziale(v[3]))});
+          r.Salta(1);
+        }
+        const int aste = r.Conteggio();
+        for (int k = 0; k < aste; ++k) {
+          const auto a = r.ProssimiValori();
+          const auto b = r.ProssimiValori();
+          if (a.size() < 4 || b.size() < 2) throw FileGuasto{};
+          s.aste.push_back({InI16(NumeroIniziale(a[0])), InI16(NumeroIniziale(a[1])),
+                            InI16(NumeroIniziale(a[2])), InI16(NumeroIniziale(a[3])),
+                            static_cast<int>(NumeroIniziale(b[0])),
+                            static_cast<int>(NumeroIniziale(b[1]))});
+        }
+        r.Salta(2 * r.Conteggio());
+        for (int blocco = 0; blocco < 3; ++blocco) r.Salta(r.Conteggio());
+        s.condizioni = r.Conteggio();
+        return s;
+      });
 }
 
 std::optional<std::vector<std::string>> LeggiSezioniModello(const std::filesystem::path& file,
                                                             Piattaforma& p) {
-  auto testo = LeggiRighe(file);
-  if (!testo) {
-    Mancante(file, p);
-    return std::nullopt;
-  }
-  try {
-    ValoriFile v(*testo);
-    const int numero = v.Intero();
-    std::vector<std::string> nomi;
-    for (int k = 0; k < numero; ++k) {
-      v.Intero();
-      nomi.push_back(v.Testo());
-      v.Intero();
-      v.SaltaRighe(4);
-    }
-    return nomi;
-  } catch (const FileGuasto&) {
-  } catch (const ErroreFatale&) {
-  }
-  Mancante(file, p);
-  return std::nullopt;
+  return LeggiFileModello(
+      file, p, [](std::vector<std::string>& testo) -> std::optional<std::vector<std::string>> {
+        ValoriFile v(testo);
+        const int numero = v.Intero();
+        std::vector<std::string> nomi;
+        for (int k = 0; k < numero; ++k) {
+          v.Intero();
+          nomi.push_back(v.Testo());
+          v.Intero();
+          v.SaltaRighe(4);
+        }
+        return nomi;
+      });
 }
 
 std::string TipoCombinazione(std::string_view riga) {
@@ -203,35 +206,26 @@ std::string TipoCombinazione(std::string_view riga) {
 
 std::optional<CombinazioniModello> LeggiCombinazioni(const std::filesystem::path& file,
                                                      Piattaforma& p) {
-  auto testo = LeggiRighe(file);
-  if (!testo) {
-    Mancante(file, p);
-    return std::nullopt;
-  }
-  try {
-    Righe r(std::move(*testo));
-    const int numero = r.Conteggio();
-    if (static_cast<std::size_t>(numero) > kMaxCombinazioni) {
-      p.Messaggio("Errore: numero di combinazioni eccessivo", "ERRORE", Icona::Critica,
-                  Pulsanti::Ok);
-      return std::nullopt;
-    }
-    CombinazioniModello c;
-    for (int k = 0; k < numero; ++k) {
-      c.numeri.push_back(InI16(NumeroIniziale(r.ProssimiValori().at(0))));
-      r.Salta(2);
-      c.tipi.push_back(TipoCombinazione(r.Prossima()));
-      // The groups that follow: a count and its triples, a count and its pairs, one a line.
-      r.Salta(r.Conteggio());
-      r.Salta(r.Conteggio());
-    }
-    return c;
-  } catch (const FileGuasto&) {
-  } catch (const std::out_of_range&) {
-  } catch (const ErroreFatale&) {
-  }
-  Mancante(file, p);
-  return std::nullopt;
+  return LeggiFileModello(
+      file, p, [&p](std::vector<std::string>& testo) -> std::optional<CombinazioniModello> {
+        Righe r(std::move(testo));
+        const int numero = r.Conteggio();
+        if (static_cast<std::size_t>(numero) > kMaxCombinazioni) {
+          p.Messaggio("Errore: numero di combinazioni eccessivo", "ERRORE", Icona::Critica,
+                      Pulsanti::Ok);
+          return std::nullopt;
+        }
+        CombinazioniModello c;
+        for (int k = 0; k < numero; ++k) {
+          c.numeri.push_back(InI16(NumeroIniziale(r.ProssimiValori().at(0))));
+          r.Salta(2);
+          c.tipi.push_back(TipoCombinazione(r.Prossima()));
+          // The groups that follow: a count and its triples, a count and its pairs, one a line.
+          r.Salta(r.Conteggio());
+          r.Salta(r.Conteggio());
+        }
+        return c;
+      });
 }
 
 std::string NomeFileRisultati(bool caso, int numero) {

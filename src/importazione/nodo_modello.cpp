@@ -10,14 +10,6 @@ namespace {
 
 constexpr double kPi = 3.14159265358979;
 
-std::string SenzaSpazi(std::string_view testo) {
-  std::string s;
-  for (char c : testo) {
-    if (c != ' ') s += c;
-  }
-  return s;
-}
-
 }  // namespace
 
 std::optional<std::vector<std::int16_t>> LeggiElenco(std::string_view testo, Piattaforma& p) {
@@ -32,7 +24,7 @@ std::optional<std::vector<std::int16_t>> LeggiElenco(std::string_view testo, Pia
   std::size_t i = 0;
   while (i <= testo.size()) {
     const std::size_t fine = std::min(testo.find(',', i), testo.size());
-    const std::string voce = SenzaSpazi(testo.substr(i, fine - i));
+    const std::string voce = RimuoviSpazi(testo.substr(i, fine - i));
     i = fine + 1;
     if (voce.empty()) continue;
     const std::size_t trattino = voce.find('-');
@@ -78,7 +70,7 @@ std::optional<std::vector<AstaDelNodo>> LeggiAsteDelNodo(const StrutturaModello&
 }
 
 SezioneModello NomeSezioneModello(std::string_view nome) {
-  std::string n = SenzaSpazi(nome);
+  std::string n = RimuoviSpazi(nome);
   if (n.rfind("P_", 0) != 0) return {"Non app. " + n, 0, false};
   n.erase(0, 2);
   for (char& c : n) {
@@ -91,6 +83,14 @@ SezioneModello NomeSezioneModello(std::string_view nome) {
   if (inizia("LDO")) return {"LU" + n.substr(3), 2};
   if (inizia("LD")) return {"LU" + n.substr(2), 1};
   return {n, 0};
+}
+
+std::string RimuoviSpazi(std::string_view testo) {
+  std::string s;
+  for (char c : testo) {
+    if (c != ' ') s += c;
+  }
+  return s;
 }
 
 double ArrotondaDecimo(double x) {

@@ -38,6 +38,9 @@ struct SezioneModello {
 };
 SezioneModello NomeSezioneModello(std::string_view nome);
 
+// The text with every blank taken out: model and library names are compared so.
+std::string RimuoviSpazi(std::string_view testo);
+
 // Rounded to one decimal the family's way: the integer part of 10 x + 0.5, over 10.
 double ArrotondaDecimo(double x);
 // The angle in degrees, clockwise from the horizontal, of a member from its end at the node to
